@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+/// Nominal frames per second, for every file: drop-frame numbering (SMPTE ST 12) is not compensated.
+inline constexpr double kFramesPerSecond = 30.0;
+
+/// The seconds of an SCC timecode "HH:MM:SS:FF", as the text of Str: "01:02:03:15" is "3723.5". A field
+/// that is no number counts as Val reads it; further fields are ignored. Throws OutOfBoundsException
+/// when there are fewer than four fields.
+std::string timecodeToSecondsSCC(std::string_view timecode);
+
+/// The seconds of a time "HH:MM:SS", whose seconds may have decimals, as the text of Str. Throws
+/// OutOfBoundsException when there are fewer than three fields.
+std::string timeCodeToSeconds(std::string_view timecode);
+
+/// Seconds as "HH:MM:SS.hh": at least two digits of hours and no day's end; 0 for negative seconds.
+/// Never carries a rounded "60.00" into the minutes.
+std::string returnTimecode(double seconds);
+
+} // namespace norvane

@@ -1,0 +1,103 @@
+#include "framework/desktop.h"
+#include "shell/app.h"
+#include "shell/window1.h"
+
+#include <cmath>
+#include <cstdint>
+
+namespace norvane {
+
+namespace {
+
+/// A double's whole part as a number of milliseconds, within what the number holds; 0 for an infinite one.
+std::int64_t wholeMilliseconds(double value) {
+    constexpr double kLimit = 9e18;
+    if (!std::isfinite(value))
+        return 0;
+    return static_cast<std::int64_t>(std::fmin(std::fmax(value, -kLimit), kLimit));
+}
+
+} // namespace
+
+void Window1::readInterval() {
+    constexpr double kMillisecondsPerMinute = 60000;
+    Timer1.Period = wholeMilliseconds(Val(timerText.Text.get()) * kMillisecondsPerMinute);
+}
+
+void Window1::timerText_TextChange() { readInterval(); }
+
+void Window1::chooseFolder(std::string &folder, TextField &field) {
+    const Ref<FolderItem> item = SelectFolder();
+    if (!item) {
+        MsgBox("No folder selected.");
+        return;
+    }
+    folder = item->AbsolutePath();
+    field.Text = folder;
+}
+
+// Kept: unlike the Browse buttons, the prompt fails when its dialog is cancelled.
+void Window1::promptForFolder(const std::string &message, std::string &folder, TextField &field) {
+    MsgBox(message);
+    folder = SelectFolder()->AbsolutePath();
+    field.Text = folder;
+}
+
+void Window1::BevelButton6_Action() { chooseFolder(hotFolder, TextField1); }
+
+void Window1::BevelButton7_Action() { chooseFolder(destFolder, TextField2); }
+
+void Window1::CheckBox1_Action() {
+    if (!CheckBox1.Value) {
+        Timer1.Mode = 0;
+        Timer1.Enabled = false;
+        myWatchFolder = false;
+        return;
+    }
+    if (hotFolder.empty() || destFolder.empty()) {
+        MsgBox("You must choose both a watch folder and a destination folder to activate the timer.");
+        CheckBox1.Value = false;
+        return;
+    }
+    Timer1.Enabled = true;
+    Timer1.Reset();
+    myWatchFolder = true;
+    importSCCFolder();
+}
+
+void Window1::Timer1_Action() {
+    const Ref<FolderItem> folder = GetFolderItem(hotFolder, 0);
+    if (!folder || !folder->Directory())
+        return;
+    Timer1.Mode = 0; // no tick while the cycle lasts; a cycle that fails leaves it so
+    if (folder->Count() > 0)
+        importSCCFolder();
+    Timer1.Enabled = true;
+    Timer1.Reset();
+}
+
+bool App::_FileEnableHotFolder_Action() {
+    Window1 &window = Window1::the();
+    if (window.myWatchFolder) {
+        window.myWatchFolder = false;
+        window.Timer1.Mode = 0;
+        window.CheckBox1.Value = false;
+    } else {
+        window.Timer1.Enabled = true;
+        window.Timer1.Reset();
+        window.myWatchFolder = true;
+        window.CheckBox1.Value = true;
+    }
+    if (!window.hotFolder.empty() && !window.destFolder.empty()) {
+        window.Timer1.Reset();
+        return false;
+    }
+    if (window.hotFolder.empty())
+        window.promptForFolder("Please select a folder to watch.", window.hotFolder, window.TextField1);
+    if (window.destFolder.empty())
+        window.promptForFolder("Please select a destination folder for decoded files.", window.destFolder,
+                               window.TextField2);
+    return false;
+}
+
+} // namespace norvane

@@ -1,0 +1,18 @@
+#include "framework/application.h"
+
+#include "framework/guard.h"
+
+namespace norvane {
+
+void Application::addMenuHandler(const std::string &itemName, MenuHandler handler) {
+    bindings_.push_back({itemName, std::move(handler)});
+}
+
+void Application::menuCommand(const std::string &itemName) const {
+    for (const Binding &binding : bindings_) {
+        if (binding.itemName == itemName)
+            guarded([&] { binding.handler(); });
+    }
+}
+
+} // namespace norvane

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "framework/property.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// The controls as the program sees them: plain models, which work without a screen. The desktop
+/// gives each a widget and keeps both in step. Positions and sizes are in points, a pixel at 100 %.
+namespace norvane {
+
+class Window;
+
+class Control {
+  public:
+    Control() = default;
+    virtual ~Control() = default;
+    Control(const Control &) = delete;
+    Control &operator=(const Control &) = delete;
+
+    std::string Name;
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    Property<bool> Visible{true};
+    Property<bool> Enabled{true};
+
+    /// What a screen reader says where there is no caption, or one that does not speak for itself.
+    std::string accessibleName;
+
+    /// Repaints the control: at once, without going back to the event loop, when `immediately`.
+    /// Costs next to nothing where no pixel would change.
+    void Refresh(bool immediately) const {
+        if (repaint)
+            repaint(immediately);
+    }
+
+    /// The desktop's way to repaint; empty where there is no screen.
+    std::function<void(bool immediately)> repaint;
+};
+
+/// A button that does something when it is pressed.
+class Button : public Control {
+  public:
+    std::string Caption;
+    std::function<void()> Action;
+};
+
+class BevelButton : public Button {
+  public:
+    static constexpr int kSmallSquare = 0;
+    static constexpr int kRounded = 3;
+    int Bevel = kRounded;
+};
+
+class PushButton : public Button {};
+
+class CheckBox : public Control {
+  public:
+    std::string Caption;
+    Property<bool> Value; // its changed is the Action
+};
+
+/// One of its window's radio buttons: turning one on turns the others off. All may be off.
+class RadioButton : public Control {
+  public:
+    std::string Caption;
+    Property<bool> Value;
+};
+
+enum class Alignment { left = 0, centred = 2 };
+
+class TextField : public Control {
+  public:
+    Property<std::string> Text; // its changed is the TextChange
+    Alignment alignment = Alignment::left;
+};
+
+class Label : public Control {
+  public:
+    Property<std::string> Text; // "\r" parts its lines
+    int TextSize = 0;           // pixels at 100 %; 0 is the system font's size
+    bool grey = false;          // red, green and blue all 128
+    bool multiline = false;
+    Alignment alignment = Alignment::left;
+};
+
+class ProgressBar : public Control {
+  public:
+    Property<int> Value{0};
+    Property<int> Maximum{100};
+};
+
+/// A picture: the name of one of the application's own, drawn in the control's area.
+class Canvas : public Control {
+  public:
+    std::string Backdrop;
+};
+
+class Separator : public Control {};
+
+/// A disclosure arrow.
+class PopupArrow : public Control {
+  public:
+    static constexpr int kRight = 0; // folded
+    static constexpr int kDown = 3;  // unfolded
+    Property<int> Facing{kRight};
+    /// Gives true when it claims the press for itself.
+    std::function<bool()> MouseDown;
+};
+
+class Listbox : public Control {};
+
+} // namespace norvane

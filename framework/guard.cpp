@@ -1,0 +1,35 @@
+#include "framework/guard.h"
+
+#include "framework/desktop.h"
+#include "framework/failures.h"
+
+#include <new>
+#include <string>
+
+namespace norvane {
+
+namespace {
+
+void tell(const std::string &what) {
+    Desktop::current().failure("This could not be finished: " + what);
+}
+
+} // namespace
+
+void guarded(const std::function<void()> &entry) {
+    if (!entry)
+        return;
+    try {
+        entry();
+    } catch (const RuntimeException &failure) {
+        tell(failure.what());
+    } catch (const std::bad_alloc &) {
+        tell("there is not enough memory.");
+    } catch (const std::exception &failure) {
+        tell(std::string("an internal error occurred (") + failure.what() + ").");
+    } catch (...) {
+        tell("an internal error occurred.");
+    }
+}
+
+} // namespace norvane

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "framework/failures.h"
+#include "framework/text_array.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Text operations. Text is UTF-8; bytes that are no valid UTF-8 pass unchanged and count as one
+/// character each. "Ignoring case" concerns the ASCII letters only. Nothing here depends on the C
+/// locale, and nothing throws unless its comment says so.
+namespace norvane {
+
+/// The platform's end of line, as files have it.
+#ifdef _WIN32
+inline constexpr std::string_view EndOfLine = "\r\n";
+#else
+inline constexpr std::string_view EndOfLine = "\n";
+#endif
+
+/// The leading number of `text`: sign, digits, fraction, exponent, as far as they go; 0 when it
+/// starts with none (a leading blank, "inf", "nan" and hex forms are none). A number too large for a
+/// double is infinite, one too small is 0.
+double Val(std::string_view text);
+
+/// `value` with at most seven significant digits, no trailing zeros, and an exponent when it is
+/// below 0.0001 or needs more than seven integer digits: "59.96667", "60", "1e+07". Infinity is "inf".
+std::string Str(double value);
+
+/// `value` by a mask of digit places: "0", "00" (at least two integer digits), "00.00" (and exactly
+/// two decimals). Rounds to the nearest; a value halfway goes by its exact binary value, ties to even.
+/// The decimal mark is a point.
+std::string Format(double value, std::string_view mask);
+
+/// The pieces of `text` between delimiters, at least one; with an empty delimiter one piece for each
+/// character, none for an empty text.
+TextArray Split(std::string_view text, std::string_view delimiter);
+
+/// `text` with the first occurrence of `find` replaced, ignoring case. An empty `find` changes nothing.
+std::string Replace(std::string_view text, std::string_view find, std::string_view with);
+
+/// `text` with every occurrence of `find` replaced, ignoring case: left to right, without overlap,
+/// not looking again at what was put in. An empty `find` changes nothing.
+std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view with);
+
+/// ReplaceAll byte by byte, so that case counts.
+std::string ReplaceAllB(std::string_view text, std::string_view find, std::string_view with);
+
+/// Where `find` first occurs in `text` at byte `from` or later, ignoring case; npos when nowhere.
+std::size_t findIgnoringCase(std::string_view text, std::string_view find, std::size_t from = 0);
+
+/// The equality of texts: ignoring case.
+bool equal(std::string_view a, std::string_view b);
+
+/// The length of `text` in characters.
+std::size_t Len(std::string_view text);
+
+/// The length in bytes (1 to 4) of the character at the start of `text`, which must not be empty.
+std::size_t characterSize(std::string_view text);
+
+/// True when every byte of `text` is ASCII, so that its bytes are its characters.
+bool isAscii(std::string_view text);
+
+/// The character with the ASCII code `code`.
+std::string Chr(int code);
+
+/// The largest whole number not above `value`.
+double Floor(double value);
+
+/// The value of an ASCII hex digit of either case, 0 to 15, or -1.
+constexpr int hexDigitValue(char digit) {
+    if (digit >= '0' && digit <= '9')
+        return digit - '0';
+    if (digit >= 'a' && digit <= 'f')
+        return digit - 'a' + 10;
+    if (digit >= 'A' && digit <= 'F')
+        return digit - 'A' + 10;
+    return -1;
+}
+
+} // namespace norvane

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "framework/property.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace norvane {
+
+/// A point in time of the desktop's steady clock, in milliseconds.
+using TimePoint = std::int64_t;
+
+/// A repeating timer. It runs while Enabled is true, from Reset on or from the moment that Enabled or
+/// Mode turned it on, until Enabled turns false or Mode is set to 0; Reset starts it again whatever
+/// Mode was set to before. The desktop calls tick when the wait is over.
+class Timer {
+  public:
+    Timer();
+    ~Timer();
+    Timer(const Timer &) = delete;
+    Timer &operator=(const Timer &) = delete;
+
+    Property<int> Mode{2}; // 0 off, 2 repeating
+    /// Milliseconds. A change applies from the next wait. With 0 or less the timer waits for ever, and
+    /// the wait begins when a positive one comes.
+    Property<std::int64_t> Period{60000};
+    Property<bool> Enabled{true};
+
+    /// Starts a whole wait, where Enabled is true.
+    void Reset();
+
+    std::function<void()> Action;
+
+    /// When the current wait ends; none when there is no wait.
+    std::optional<TimePoint> due() const { return due_; }
+
+    /// Begins the next wait and raises Action under the guard. The desktop calls it once it is due.
+    void tick();
+
+  private:
+    void start();
+    void stop();
+
+    bool running_ = false;
+    std::optional<TimePoint> due_;
+};
+
+} // namespace norvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "framework/controls.h"
+#include "framework/window.h"
+
+namespace norvane {
+
+/// The About window: the picture, the version and a few lines.
+class aboutWin : public Window {
+  public:
+    /// The window that exists; made and not yet shown when there is none.
+    static aboutWin &the();
+
+    aboutWin();
+
+    Canvas Canvas1;
+    Label Label1;
+};
+
+} // namespace norvane

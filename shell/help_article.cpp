@@ -1,0 +1,36 @@
+#include "shell/help_article.h"
+
+#include "framework/disk.h"
+
+namespace norvane {
+
+namespace {
+
+/// Everything but what a path in an address may hold as it is, as %XX.
+std::string fileAddress(const std::string &path) {
+    constexpr std::string_view kPlain = "/-._~";
+    constexpr std::string_view kHex = "0123456789ABCDEF";
+    std::string address = "file://";
+    for (const char c : path) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool alphanumeric = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+        if (alphanumeric || kPlain.find(c) != std::string_view::npos)
+            address += c;
+        else
+            address.append({'%', kHex[byte >> 4U], kHex[byte & 15U]});
+    }
+    return address;
+}
+
+} // namespace
+
+std::string helpArticleAddress() {
+#ifdef NORVANE_HELP_ADDRESS
+    return NORVANE_HELP_ADDRESS;
+#else
+    const std::string installed = disk::programFolder() + "/" NORVANE_HELP_FROM_PROGRAM;
+    return fileAddress(disk::kindOf(installed) == disk::Kind::file ? installed : NORVANE_HELP_SOURCE);
+#endif
+}
+
+} // namespace norvane

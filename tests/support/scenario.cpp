@@ -40,7 +40,7 @@ Lines TemporaryFolder::tree() const {
     return names;
 }
 
-Scenario::Scenario() { setenv("XDG_CONFIG_HOME", folder.path("config").c_str(), 1); }
+Scenario::Scenario() { setenv("XDG_CONFIG_HOME", preferences.path().c_str(), 1); }
 
 Scenario::~Scenario() {
     closeWindow();

@@ -56,6 +56,7 @@ class Scenario : public testing::Test {
     Lines messages();
 
     TemporaryFolder folder;
+    TemporaryFolder preferences; // the user's folder for them
     HeadlessDesktop desktop;
 };
 

@@ -1,0 +1,154 @@
+#include "tests/support/scenario.h"
+
+namespace norvane {
+namespace {
+
+constexpr const char *kHi = "9420 9420 94ae 94ae 9470 9470 c8e9 a180 942f 942f";
+constexpr const char *kNoTimecode = "There does not appear to be any timecode in this file.";
+constexpr const char *kNoTab = "This SCC file does not appear to be formatted correctly. It needs "
+                               "to have a tab between the timecode "
+                               "and the hexidecimal caption code.";
+
+std::string line(const std::string &timecode, const std::string &hexText = kHi) {
+    return timecode + "\t" + hexText;
+}
+
+class OneFile : public Scenario {};
+
+TEST_F(OneFile, ThreeFormsAndTwoClocks) {
+    folder.write("show.scc", sccFile({line("00:00:01:00"), line("00:00:03;15")}));
+    decode("show.scc", "a.txt");
+    EXPECT_EQ(folder.read("a.txt"),
+              "Transcripts of show\n\n[00:00:01.33]\t Hi! \n\n[00:00:03.83]\t Hi! \n\n\n");
+    desktop.click(window().RadioButton2);
+    decode("show.scc", "b.txt");
+    EXPECT_EQ(folder.read("b.txt"),
+              "Transcripts of show\n\n[00:00:01:00]\t Hi! \n\n[00:00:03;15]\t Hi! \n\n\n");
+    desktop.click(window().TimecodeBox);
+    decode("show.scc", "c.txt");
+    EXPECT_EQ(folder.read("c.txt"), "Transcripts of show\n\n Hi! \n Hi! \n\n");
+    desktop.click(window().ParagraphBox);
+    decode("show.scc", "d.txt");
+    EXPECT_EQ(folder.read("d.txt"), "Transcripts of show\n\n Hi! Hi! \n");
+}
+
+TEST_F(OneFile, WhatTheUserSees) {
+    folder.write("show.part2.scc", sccFile({line("00:00:01:00")}));
+    window();
+    desktop.takeLog();
+    decode("show.part2.scc", "show.txt");
+    EXPECT_EQ(desktop.takeLog(),
+              (Lines{"open dialog text/scc", "ProgressBar1 shown", "ProgressText shown",
+                     "save dialog TEXT show.txt", "ProgressBar1 hidden",
+                     "launch " + folder.path("show.txt"), "ProgressText hidden"}));
+    EXPECT_EQ(window().ProgressText.Text.get(), "Done Writing SCC Transcripts");
+    EXPECT_EQ(window().captionArray2.size() + window().timeCodeArray.size(), 0U);
+}
+
+TEST_F(OneFile, LinesOfEveryKindOfEnding) {
+    folder.write("a.scc", "header\r\r\n\n" + line("00:00:01:00") + "\r\n\r\n" +
+                              line("00:00:02:00") + "\r" + line("00:00:03:00", "") + "\n" +
+                              line("00:00:04:00") + "\textra field");
+    decode("a.scc", "a.txt");
+    EXPECT_EQ(folder.read("a.txt"),
+              "Transcripts of a\n\n[00:00:01.33]\t Hi! \n\n[00:00:02.33]\t Hi! \n\n"
+              "[00:00:03.00]\t \n\n[00:00:04.33]\t Hi! \n\n\n");
+    // No line, and a header only: an empty transcript and no message.
+    for (const char *text : {"", "\n\r\n", "header"}) {
+        folder.write("a.scc", text);
+        decode("a.scc", "a.txt");
+        EXPECT_EQ(folder.read("a.txt"), "Transcripts of a\n\n\n");
+    }
+    // Names without a point, and with nothing before it.
+    folder.write("xscc", "header");
+    decode("xscc", "a.txt");
+    EXPECT_EQ(folder.read("a.txt"), "Transcripts of xscc\n\n\n");
+    folder.write(".scc", "header");
+    decode(".scc", "a.txt");
+    EXPECT_EQ(folder.read("a.txt"), "Transcripts of \n\n\n");
+    EXPECT_EQ(messages(), Lines{});
+}
+
+TEST_F(OneFile, BadLinesStopWithTheirMessageAndNoTranscript) {
+    const std::pair<std::string, std::string> rows[] = {
+        {sccFile({line("00:00:01:00"), "   "}), kNoTimecode},
+        {sccFile({line("0:0:01:00"), "no colon\t9420"}), kNoTimecode},
+        {sccFile({"00:00:01:00 9420 9420"}), kNoTab},
+        {sccFile({line("00:00:05")}),
+         "This could not be finished: the timecode “00:00:05” has fewer than four fields."},
+        {sccFile({line("00:00:01:00", "13ba")}),
+         "This could not be finished: the codes “13ba” leave no pair of characters."},
+    };
+    for (const auto &[text, message] : rows) {
+        folder.write("bad.scc", text);
+        desktop.answerFile(folder.item("bad.scc"));
+        desktop.click(window().BevelButton1);
+        EXPECT_EQ(messages(), Lines{message});
+    }
+    folder.write("notes.txt", "");
+    desktop.answerFile(folder.item("notes.txt"));
+    desktop.click(window().BevelButton1);
+    EXPECT_EQ(messages(), Lines{"This file does not have the .scc extension."});
+    EXPECT_EQ(window().ProgressText.Text.get(), "");
+    EXPECT_FALSE(window().ProgressBar1.Visible);
+    EXPECT_EQ(folder.tree(), (Lines{"bad.scc", "notes.txt"}));
+}
+
+TEST_F(OneFile, StaleTimecodesPairWithTheNextFile) {
+    folder.write("bad.scc", sccFile({line("00:00:01:00"), line("00:00:02:00"), "bad"}));
+    folder.write("show.scc",
+                 sccFile({line("01:00:00:00"), line("02:00:00:00"), line("03:00:00:00")}));
+    desktop.answerFile(folder.item("bad.scc"));
+    desktop.click(window().BevelButton1);
+    EXPECT_EQ(window().captionArray2.size(), 2U);
+    decode("show.scc", ""); // the arrays of a cancelled save stay as well
+    EXPECT_EQ(window().timeCodeArray.size(), 5U);
+    decode("show.scc", "a.txt");
+    EXPECT_EQ(folder.read("a.txt"),
+              "Transcripts of show\n\n[00:00:01.33]\t Hi! \n\n[00:00:02.33]\t Hi! \n\n"
+              "[01:00:00.33]\t Hi! \n\n\n");
+    decode("show.scc", "a.txt");
+    EXPECT_TRUE(folder.read("a.txt").starts_with("Transcripts of show\n\n[01:00:00.33]"));
+}
+
+TEST_F(OneFile, NothingIsSaidOfAFileThatCannotBeOpened) {
+    folder.write("x.scc/inside", "");
+    const Ref<FolderItem> asFolder = folder.item("x.scc");
+    const Ref<FolderItem> vanished = folder.item("gone.scc");
+    for (const Ref<FolderItem> &item : {asFolder, vanished, HeadlessDesktop::cancel()}) {
+        desktop.answerFile(item);
+        desktop.click(window().BevelButton1);
+    }
+    EXPECT_EQ(messages(), Lines{});
+}
+
+TEST_F(OneFile, AFailedSaveIsToldAndKeepsWhatWasThere) {
+    folder.write("show.scc", sccFile({line("00:00:01:00")}));
+    folder.write("taken/inside", "");
+    decode("show.scc", "taken");
+    EXPECT_EQ(messages(),
+              Lines{"This could not be finished: “" + folder.path("taken") + "” is a folder."});
+    EXPECT_EQ(folder.tree(), (Lines{"show.scc", "taken/", "taken/inside"}));
+}
+
+TEST_F(OneFile, BoxesSetEachOtherOff) {
+    Window1 &w = window();
+    const auto state = [&w] {
+        return std::string(w.LineBox.Value ? "L" : "-") + (w.TimecodeBox.Value ? "T" : "-") +
+               (w.ParagraphBox.Value ? "P" : "-");
+    };
+    const std::pair<CheckBox *, const char *> clicks[] = {
+        {&w.TimecodeBox, "L--"},  {&w.TimecodeBox, "LT-"},  {&w.LineBox, "--P"},
+        {&w.LineBox, "LT-"},      {&w.ParagraphBox, "--P"}, {&w.TimecodeBox, "LT-"},
+        {&w.ParagraphBox, "--P"}, {&w.ParagraphBox, "LT-"}, {&w.TimecodeBox, "L--"},
+        {&w.LineBox, "--P"},      {&w.ParagraphBox, "LT-"},
+    };
+    EXPECT_EQ(state(), "LT-");
+    for (const auto &[box, after] : clicks) {
+        desktop.click(*box);
+        EXPECT_EQ(state(), after) << box->Name;
+    }
+}
+
+} // namespace
+} // namespace norvane

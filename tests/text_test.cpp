@@ -1,0 +1,185 @@
+#include "framework/regex.h"
+#include "framework/text.h"
+#include "framework/text_streams.h"
+
+#include <clocale>
+#include <cmath>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+#include <vector>
+
+namespace norvane {
+namespace {
+
+using Pieces = std::vector<std::string>;
+
+Pieces piecesOf(const TextArray &array) {
+    Pieces pieces;
+    for (std::size_t i = 0; i < array.size(); ++i)
+        pieces.emplace_back(array[i]);
+    return pieces;
+}
+
+TEST(Text, ValReadsTheLeadingNumber) {
+    const double infinite = std::numeric_limits<double>::infinity();
+    const struct {
+        const char *text;
+        double value;
+    } rows[] = {
+        {"", 0},
+        {"abc", 0},
+        {" 5", 0},
+        {"inf", 0},
+        {"nan", 0},
+        {"0x10", 0},
+        {"-", 0},
+        {".", 0},
+        {"5.", 5},
+        {".5", 0.5},
+        {"1e", 1},
+        {"1e+", 1},
+        {"-3", -3},
+        {"+3", 3},
+        {"12ab", 12},
+        {"1.5.7", 1.5},
+        {"1,5", 1},
+        {"2e3x", 2000},
+        {"1e400", infinite},
+        {"-1e400", -infinite},
+        {"1e-400", 0},
+        {"0-0.01", 0},
+        {"59.96667", 59.96667},
+        {"1e-05", 1e-5},
+        {"123456789012345", 123456789012345.0},
+        {"0.1234567890123456789", 0.1234567890123456789},
+        {"1e99999999999999999999", infinite},
+        {"1e-99999999999999999999", 0},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(Val(row.text), row.value) << row.text;
+    const std::string zeros(400, '0');
+    EXPECT_EQ(Val("1" + zeros), infinite);
+    EXPECT_EQ(Val("0." + zeros + "1"), 0);
+    EXPECT_EQ(Val("1" + zeros + "e-400"), 1);
+}
+
+TEST(Text, StrHasSevenSignificantDigits) {
+    const struct {
+        double value;
+        const char *text;
+    } rows[] = {{0, "0"},
+                {60, "60"},
+                {3723.5, "3723.5"},
+                {59.0 + 29.0 / 30, "59.96667"},
+                {36000 + 1.0 / 30, "36000.03"},
+                {3599.9999 / 60, "60"},
+                {9999999, "9999999"},
+                {9999999.5, "1e+07"},
+                {12345678, "1.234568e+07"},
+                {0.0001, "0.0001"},
+                {0.00001, "1e-05"},
+                {-0.01, "-0.01"},
+                {1e300, "1e+300"},
+                {std::numeric_limits<double>::infinity(), "inf"}};
+    for (const auto &row : rows)
+        EXPECT_EQ(Str(row.value), row.text);
+}
+
+TEST(Text, FormatRoundsAndPads) {
+    EXPECT_EQ(Format(5, "0"), "5");
+    EXPECT_EQ(Format(5, "00"), "05");
+    EXPECT_EQ(Format(100, "00"), "100");
+    EXPECT_EQ(Format(1.326667, "00.00"), "01.33");
+    EXPECT_EQ(Format(59.996, "00.00"), "60.00");
+    EXPECT_EQ(Format(0, "00.00"), "00.00");
+    EXPECT_EQ(Format(1e20, "0"), "100000000000000000000");
+    EXPECT_EQ(Format(-5.5, "00.00"), "-05.50");
+}
+
+// The C library's own conversions, digit for digit, near halves and at all magnitudes.
+TEST(Text, NumbersAreThoseOfTheCLibrary) {
+    std::mt19937_64 random(7);
+    for (int i = 0; i < 200'000; ++i) {
+        const double frames = static_cast<double>(random() % 12'000'000) / 30;
+        const double halves = static_cast<double>(random() % 200'000'001) / 200;
+        const double any =
+            std::ldexp(static_cast<double>(random()), static_cast<int>(random() % 90) - 70);
+        for (const double value : {frames, halves, any, -frames}) {
+            char expected[64];
+            std::snprintf(expected, sizeof expected, "%.7g", value);
+            ASSERT_EQ(Str(value), expected);
+            ASSERT_EQ(Val(expected), std::strtod(expected, nullptr)) << expected;
+            std::snprintf(expected, sizeof expected, "%05.2f", value);
+            ASSERT_EQ(Format(std::abs(value), "00.00"),
+                      value < 0 ? Format(-value, "00.00") : expected);
+        }
+    }
+}
+
+TEST(Text, ReplacementsIgnoreCaseButForTheByteForm) {
+    EXPECT_EQ(ReplaceAll("94AE94ae", "94ae", "x"), "xx");
+    EXPECT_EQ(ReplaceAll("|||", "||", "| "), "| |");
+    EXPECT_EQ(ReplaceAll("aaa", "a", "aa"), "aaaaaa");
+    EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
+    EXPECT_EQ(ReplaceAllB("Å-å-", "å-", "å"), "Å-å");
+    EXPECT_EQ(Replace("xAxa", "a", ""), "xxa");
+    EXPECT_EQ(Replace("abc", "", "x"), "abc");
+    EXPECT_EQ(ReplaceAll("É", "é", "e"), "É"); // case is ASCII's
+    EXPECT_TRUE(equal("TRUE", "true"));
+    EXPECT_FALSE(equal("true", "true "));
+}
+
+TEST(Text, CharactersAreCodePointsOrStrayBytes) {
+    EXPECT_EQ(Len("♪ é"), 3U);
+    EXPECT_EQ(Len("\xFF\xC3\x28\xE2\x99"), 5U);
+    EXPECT_EQ(Len("\xC0\x80\xED\xA0\x80\xF4\x90\x80\x80"),
+              9U); // overlong, surrogate, beyond the last
+    EXPECT_EQ(piecesOf(Split("aé\xFF", "")), (Pieces{"a", "é", "\xFF"}));
+    EXPECT_EQ(piecesOf(Split("", "")), Pieces{});
+    EXPECT_EQ(piecesOf(Split("a:b::", ":")), (Pieces{"a", "b", "", ""}));
+    EXPECT_EQ(piecesOf(Split("", ":")), Pieces{""});
+}
+
+TEST(Text, ArraysKeepTheirBounds) {
+    TextArray array;
+    EXPECT_THROW(array[0], OutOfBoundsException);
+    array.Append("short");
+    array.Append("other");
+    array.set(0, "something longer");
+    array.set(1, "");
+    EXPECT_EQ(piecesOf(array), (Pieces{"something longer", ""}));
+    EXPECT_THROW(array[2], OutOfBoundsException);
+    EXPECT_THROW(array.set(2, ""), OutOfBoundsException);
+}
+
+TEST(Text, PatternsAreSearchedAnywhereIgnoringCase) {
+    const struct {
+        const char *pattern;
+        std::string_view text;
+        bool found;
+    } rows[] = {
+        {".scc", "a.SCC.txt", true},  {".scc", "xscc", true},  {".scc", "scc", false},
+        {".scc", "file.txt", false},  {".scc", "\nscc", true}, {"\\d\\d\\:", "ab12:", true},
+        {"\\d\\d\\:", "1:2:", false}, {"\t", "a\tb", true},    {"[^|]", "||", false},
+        {"[^|]", "|é", true},         {"[^ *]", " * ", false}, {"[^ *]", " *|", true},
+        {"[^ *]", "", false},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(RegEx(row.pattern).Search(row.text).has_value(), row.found)
+            << row.pattern << row.text;
+    EXPECT_EQ(RegEx("\\d\\d\\:").Search("ab12:")->start, 2U);
+}
+
+TEST(Text, LinesEndInAnyWay) {
+    TextInputStream stream("a\r\n\r\nb\rc\n\rd\n\ne");
+    Pieces lines;
+    while (!stream.EndOfFile())
+        lines.emplace_back(stream.ReadLine());
+    EXPECT_EQ(lines, (Pieces{"a", "", "b", "c", "", "d", "", "e"}));
+    EXPECT_EQ(stream.ReadLine(), "");
+}
+
+} // namespace
+} // namespace norvane

@@ -1,0 +1,43 @@
+#include "decode/timecode.h"
+#include "framework/failures.h"
+
+#include <gtest/gtest.h>
+
+namespace norvane {
+namespace {
+
+TEST(Timecode, ToSeconds) {
+    EXPECT_EQ(timecodeToSecondsSCC("01:02:03:15"), "3723.5");
+    EXPECT_EQ(timecodeToSecondsSCC("00:00:59:29"), "59.96667");
+    EXPECT_EQ(timecodeToSecondsSCC("10:00:00:01"),
+              "36000.03"); // seven digits lose part of the frame
+    EXPECT_EQ(timecodeToSecondsSCC("xx:00:05;10:15:99"), "5.5");
+    EXPECT_THROW(timecodeToSecondsSCC("01:00:00"), OutOfBoundsException);
+    EXPECT_EQ(timeCodeToSeconds("01:02:03.50"), "3723.5");
+    EXPECT_EQ(timeCodeToSeconds("01:02:03:15"), "3723");
+    EXPECT_THROW(timeCodeToSeconds("01:00"), OutOfBoundsException);
+}
+
+TEST(Timecode, OfSeconds) {
+    const struct {
+        double seconds;
+        const char *timecode;
+    } rows[] = {
+        {0, "00:00:00.00"},         {1 + 49 / 150.0, "00:00:01.33"},
+        {3723.5, "01:02:03.50"},    {60, "00:01:00.00"},
+        {600, "00:10:00.00"},       {3600, "01:00:00.00"},
+        {36000, "10:00:00.00"},     {360000, "100:00:00.00"},
+        {59.996, "00:00:60.00"},    // the minute does not carry
+        {3599.9999, "01:00:00.00"}, // the quotient is rounded up, the negative rest is nothing
+        {86399.99, "24:00:00.00"},  // three decimals of the quotient are left
+        {-1, "00:00:00.00"},        {-0.001, "00:00:00.00"},
+        {0.00001, "00:00:00.00"},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(returnTimecode(row.seconds), row.timecode) << row.seconds;
+    for (const double extreme : {1e8, 1e9, 1e17, 1e300, -1e300, 1e-300})
+        EXPECT_FALSE(returnTimecode(extreme).empty());
+}
+
+} // namespace
+} // namespace norvane

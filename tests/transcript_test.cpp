@@ -1,0 +1,91 @@
+#include "tests/support/plain_walk.h"
+#include "transcript/clean_up.h"
+#include "transcript/layout.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace norvane {
+namespace {
+
+TextArray arrayOf(const std::vector<std::string> &texts) {
+    TextArray array;
+    for (const std::string &text : texts)
+        array.Append(text);
+    return array;
+}
+
+TEST(CleanUp, OfEntries) {
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {"|", ""}, // only the last pass takes a bar alone
+        {"||", "|"},
+        {"| ", ""}, // one blank is emptied at once
+        {"*|", "*"},
+        {" ", ""},
+        {"  ", "  "},                // two are not
+        {"a|b|c|d", "abc|d"},        // at most two bars, the first ones
+        {"x[^ *]y[^ *]", "xy[^ *]"}, // the five characters as they are, once
+        {"[^ *]", ""},
+        {"* |", "* "},
+        {"", ""},
+        {"  Hi|!  ", "  Hi!  "},
+    };
+    TextArray entries;
+    for (const auto &row : rows)
+        entries.Append(row.first);
+    cleanEntries(entries);
+    ASSERT_EQ(entries.size(), rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        EXPECT_EQ(entries[i], rows[i].second) << rows[i].first;
+}
+
+TEST(CleanUp, OfTheTranscript) {
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {"å-", "å"},
+        {"å--", "å-"},
+        {"à--", "à"}, // its row stands twice
+        {"à---", "à-"},
+        {"Å-å-é-’-", "Ååé-’"},
+        {"--", "--"},
+        {"a|||b", "a b"},
+        {"a" + std::string(8, ' ') + "b", "a b"},
+        {"a" + std::string(9, ' ') + "b", "a  b"},
+        {"a" + std::string(17, ' ') + "b", "a   b"},
+        {"]\t b", "]\t b"},
+        {"]\\t b]\\T b", "]\\tb]\\tb"},
+        {"]\\t  |b", "]\\t b"},
+        {"\xC3-\xA5-\x80\x99-", "\xC3-\xA5-\x80\x99-"}, // parts of characters are none
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(cleanTranscript(row.first), row.second) << row.first;
+        EXPECT_EQ(plain::cleanTranscript(row.first), row.second) << row.first;
+    }
+}
+
+TEST(CleanUp, IsThatOfThePlainWalkOnGeneratedText) {
+    const std::vector<std::string> pieces = {
+        "å", "à",  "-", "--",    "’", "É",  "|",  " ",    "  ",       "         ",
+        "]", "\\", "t", "]\\t ", "a", "\n", "\t", "\xC3", "\xE2\x80", "ß-"};
+    std::mt19937 random(3);
+    for (int i = 0; i < 50'000; ++i) {
+        std::string text;
+        for (auto parts = random() % 12; parts > 0; --parts)
+            text += pieces[random() % pieces.size()];
+        ASSERT_EQ(cleanTranscript(text), plain::cleanTranscript(text)) << text;
+    }
+}
+
+TEST(Layout, InEachForm) {
+    const TextArray captions = arrayOf({"one", ""});
+    TextArray timecodes = arrayOf({"1,5,7", "2", "stale"});
+    EXPECT_EQ(layOut(Form::timecode, captions, timecodes), "[1.5,7]\tone\n\n[2]\t\n\n");
+    EXPECT_EQ(layOut(Form::line, captions, timecodes), "one\n\n");
+    EXPECT_EQ(layOut(Form::paragraph, captions, timecodes), " one ");
+    EXPECT_EQ(layOut(Form::timecode, TextArray(), timecodes), "");
+    TextArray tooFew = arrayOf({"1,5"});
+    EXPECT_THROW(layOut(Form::line, captions, tooFew), OutOfBoundsException);
+    EXPECT_EQ(tooFew[0], "1.5"); // what was done before the failure stands, in every form
+}
+
+} // namespace
+} // namespace norvane

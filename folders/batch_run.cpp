@@ -21,8 +21,8 @@ void Window1::importSCCFolderSingle() {
             sourceList.push_back(item->AbsolutePath());
     }
 
-    // Kept across files: where a file has gone meanwhile, its transcript is offered under the name of
-    // the one before, and that one's stream is closed once more.
+    // Kept across files: where a file has gone meanwhile, its transcript is offered under the name
+    // of the one before, and that one's stream is closed once more.
     auto sourceStream = Ref<TextInputStream>::nil("no file has been opened.");
     for (std::size_t k = 0; k < sourceList.size(); ++k) {
         const Ref<FolderItem> sourceItem = GetFolderItem(sourceList[k], 0);

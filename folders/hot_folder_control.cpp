@@ -9,7 +9,8 @@ namespace norvane {
 
 namespace {
 
-/// A double's whole part as a number of milliseconds, within what the number holds; 0 for an infinite one.
+/// A double's whole part as a number of milliseconds, within what the number holds; 0 for an
+/// infinite one.
 std::int64_t wholeMilliseconds(double value) {
     constexpr double kLimit = 9e18;
     if (!std::isfinite(value))
@@ -24,7 +25,9 @@ void Window1::readInterval() {
     Timer1.Period = wholeMilliseconds(Val(timerText.Text.get()) * kMillisecondsPerMinute);
 }
 
-void Window1::timerText_TextChange() { readInterval(); }
+void Window1::timerText_TextChange() {
+    readInterval();
+}
 
 void Window1::chooseFolder(std::string &folder, TextField &field) {
     const Ref<FolderItem> item = SelectFolder();
@@ -43,9 +46,13 @@ void Window1::promptForFolder(const std::string &message, std::string &folder, T
     field.Text = folder;
 }
 
-void Window1::BevelButton6_Action() { chooseFolder(hotFolder, TextField1); }
+void Window1::BevelButton6_Action() {
+    chooseFolder(hotFolder, TextField1);
+}
 
-void Window1::BevelButton7_Action() { chooseFolder(destFolder, TextField2); }
+void Window1::BevelButton7_Action() {
+    chooseFolder(destFolder, TextField2);
+}
 
 void Window1::CheckBox1_Action() {
     if (!CheckBox1.Value) {
@@ -55,7 +62,8 @@ void Window1::CheckBox1_Action() {
         return;
     }
     if (hotFolder.empty() || destFolder.empty()) {
-        MsgBox("You must choose both a watch folder and a destination folder to activate the timer.");
+        MsgBox(
+            "You must choose both a watch folder and a destination folder to activate the timer.");
         CheckBox1.Value = false;
         return;
     }
@@ -93,10 +101,11 @@ bool App::_FileEnableHotFolder_Action() {
         return false;
     }
     if (window.hotFolder.empty())
-        window.promptForFolder("Please select a folder to watch.", window.hotFolder, window.TextField1);
+        window.promptForFolder("Please select a folder to watch.", window.hotFolder,
+                               window.TextField1);
     if (window.destFolder.empty())
-        window.promptForFolder("Please select a destination folder for decoded files.", window.destFolder,
-                               window.TextField2);
+        window.promptForFolder("Please select a destination folder for decoded files.",
+                               window.destFolder, window.TextField2);
     return false;
 }
 

@@ -27,7 +27,8 @@ void Window1::importSCCFolder() {
     if (hotFolder.empty())
         promptForFolder("Please select a folder to watch.", hotFolder, TextField1);
     if (destFolder.empty())
-        promptForFolder("Please select a destination folder for decoded files.", destFolder, TextField2);
+        promptForFolder("Please select a destination folder for decoded files.", destFolder,
+                        TextField2);
     const Ref<FolderItem> watchItem = GetFolderItem(hotFolder, 0);
     if (!watchItem || !watchItem->Exists()) {
         MsgBox("Could not locate the Watch folder. Please use the Browse button and reselect it.");
@@ -39,7 +40,8 @@ void Window1::importSCCFolder() {
         TextField1.Text = watchItem->AbsolutePath();
         const Ref<FolderItem> copyFolder = GetFolderItem(destFolder, 0)->Child("scc files");
         if (!copyFolder) {
-            MsgBox("Could not locate the Destination folder. Please use the Browse button and reselect it.");
+            MsgBox("Could not locate the Destination folder. Please use the Browse button and "
+                   "reselect it.");
         } else {
             if (!copyFolder->Exists())
                 copyFolder->CreateAsFolder();

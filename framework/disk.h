@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-/// What the program asks of the file system. Paths are UTF-8, or whatever bytes the system has; links
-/// are followed. Nothing here blocks on a FIFO or a device.
+/// What the program asks of the file system. Paths are UTF-8, or whatever bytes the system has;
+/// links are followed. Nothing here blocks on a FIFO or a device.
 namespace norvane::disk {
 
 enum class Kind { missing, file, folder, other };
@@ -55,8 +55,9 @@ class InputFile {
 };
 
 /// A file that comes into being whole or not at all: written beside its target without a name where
-/// the system allows that, and put in the target's place by commit. When it is destroyed before, the
-/// target stays as it was and nothing is left behind.
+/// the system allows that, and put in the target's place by commit. When it is destroyed before,
+/// the target stays as it was and nothing is left behind. What a killed process leaves is a file
+/// ".norvane-*.part" at most, which the next process to write in that folder removes.
 class NewFile : public TextSink {
   public:
     /// Begins a file for `path`; when it cannot be created, it is not open and `problem` says why.

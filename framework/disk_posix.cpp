@@ -10,6 +10,9 @@
 #include <fcntl.h>
 #include <memory>
 #include <pwd.h>
+#include <random>
+#include <set>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -22,9 +25,20 @@ namespace norvane::disk {
 
 namespace {
 
-std::string quoted(const std::string &path) { return "“" + path + "”"; }
+// The name, for a moment or while it is written, of a file that will take the place of another.
+constexpr const char *kTemporaryPrefix = ".norvane-";
+constexpr const char *kTemporarySuffix = ".part";
 
-std::string reason(int error) { return std::generic_category().message(error); }
+constexpr const char *kIsFolder = " is a folder.";
+constexpr const char *kNotOrdinary = " is no ordinary file.";
+
+std::string quoted(const std::string &path) {
+    return "“" + path + "”";
+}
+
+std::string reason(int error) {
+    return std::generic_category().message(error);
+}
 
 std::string folderOf(const std::string &path) {
     const std::size_t slash = path.rfind('/');
@@ -61,13 +75,33 @@ std::string homeFolder() {
     return home;
 }
 
+/// Removes the temporary files of writers that were killed, when it is first asked for a folder. A
+/// writer at work holds its file locked.
+void removeLeftovers(const std::string &folder) {
+    static std::set<std::string> swept;
+    if (!swept.insert(folder).second)
+        return;
+    for (const std::string &name : namesIn(folder)) {
+        if (!name.starts_with(kTemporaryPrefix) || !name.ends_with(kTemporarySuffix))
+            continue;
+        const std::string path = folder + "/" + name;
+        const int handle = open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC);
+        if (handle >= 0 && flock(handle, LOCK_EX | LOCK_NB) == 0)
+            remove(path);
+        if (handle >= 0)
+            close(handle);
+    }
+}
+
 } // namespace
 
 Kind kindOf(const std::string &path) {
     struct stat status {};
     if (stat(path.c_str(), &status) != 0)
         return Kind::missing;
-    return S_ISREG(status.st_mode) ? Kind::file : S_ISDIR(status.st_mode) ? Kind::folder : Kind::other;
+    return S_ISREG(status.st_mode)   ? Kind::file
+           : S_ISDIR(status.st_mode) ? Kind::folder
+                                     : Kind::other;
 }
 
 std::vector<std::string> namesIn(const std::string &path) {
@@ -85,9 +119,13 @@ std::vector<std::string> namesIn(const std::string &path) {
     return names;
 }
 
-bool makeFolder(const std::string &path) { return mkdir(path.c_str(), 0777) == 0; }
+bool makeFolder(const std::string &path) {
+    return mkdir(path.c_str(), 0777) == 0;
+}
 
-bool remove(const std::string &path) { return std::remove(path.c_str()) == 0; }
+bool remove(const std::string &path) {
+    return std::remove(path.c_str()) == 0;
+}
 
 std::string preferencesFolder() {
 #ifdef __APPLE__
@@ -115,12 +153,17 @@ std::string programFolder() {
 }
 
 InputFile::InputFile(const std::string &path, std::string &problem) : path_(path) {
+    // Opening a FIFO or a device is already an act: a writer may wait for it, a tape may move.
+    if (kindOf(path) == Kind::other) {
+        problem = quoted(path) + kNotOrdinary;
+        return;
+    }
     const int handle = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     struct stat status {};
     if (handle < 0 || fstat(handle, &status) != 0) {
         problem = quoted(path) + " cannot be opened: " + reason(errno) + ".";
     } else if (!S_ISREG(status.st_mode)) {
-        problem = quoted(path) + (S_ISDIR(status.st_mode) ? " is a folder." : " is no ordinary file.");
+        problem = quoted(path) + (S_ISDIR(status.st_mode) ? kIsFolder : kNotOrdinary);
     } else {
         handle_ = handle;
         size_ = static_cast<std::size_t>(status.st_size);
@@ -151,21 +194,24 @@ bool InputFile::readSome(std::string &bytes, std::size_t most) {
 NewFile::NewFile(std::string path, std::string &problem) : path_(behindLinks(std::move(path))) {
     const Kind kind = kindOf(path_);
     if (kind == Kind::folder || kind == Kind::other) {
-        problem = quoted(path_) + (kind == Kind::folder ? " is a folder." : " is no ordinary file.");
+        problem = quoted(path_) + (kind == Kind::folder ? kIsFolder : kNotOrdinary);
         return;
     }
     if (kind == Kind::file && access(path_.c_str(), W_OK) != 0) {
         problem = quoted(path_) + " cannot be replaced: " + reason(errno) + ".";
         return;
     }
+    removeLeftovers(folderOf(path_));
 #ifdef O_TMPFILE
     handle_ = open(folderOf(path_).c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
-    if (isOpen())
-        return;
 #endif
-    nameTemporary();
-    handle_ = open(temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (!isOpen())
+    if (!isOpen()) {
+        nameTemporary();
+        handle_ = open(temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    }
+    if (isOpen())
+        flock(handle_, LOCK_EX | LOCK_NB); // see removeLeftovers
+    else
         problem = quoted(path_) + " cannot be created: " + reason(errno) + ".";
 }
 
@@ -178,11 +224,14 @@ NewFile::~NewFile() {
 }
 
 void NewFile::nameTemporary() {
-    temporary_ = folderOf(path_) + "/.norvane-" + std::to_string(getpid()) + ".part";
-    remove(temporary_); // what a process of the same number may have left when it was killed
+    std::random_device random;
+    temporary_ = folderOf(path_) + "/" + kTemporaryPrefix + std::to_string(random()) +
+                 std::to_string(random()) + kTemporarySuffix;
 }
 
-void NewFile::write(std::string_view bytes) { writeAll(handle_, bytes, path_); }
+void NewFile::write(std::string_view bytes) {
+    writeAll(handle_, bytes, path_);
+}
 
 void NewFile::commit() {
     if (fsync(handle_) != 0)

@@ -40,15 +40,21 @@ void makeFolders(const std::string &path) {
 
 FolderItem::FolderItem(std::string path) : path_(withoutEndSeparator(std::move(path))) {}
 
-std::string FolderItem::Name() const { return path_.substr(path_.rfind(kSeparator) + 1); }
+std::string FolderItem::Name() const {
+    return path_.substr(path_.rfind(kSeparator) + 1);
+}
 
 std::string FolderItem::AbsolutePath() const {
     return Directory() ? withEndSeparator(path_) : path_;
 }
 
-bool FolderItem::Exists() const { return disk::kindOf(path_) != disk::Kind::missing; }
+bool FolderItem::Exists() const {
+    return disk::kindOf(path_) != disk::Kind::missing;
+}
 
-bool FolderItem::Directory() const { return disk::kindOf(path_) == disk::Kind::folder; }
+bool FolderItem::Directory() const {
+    return disk::kindOf(path_) == disk::Kind::folder;
+}
 
 const std::vector<std::string> &FolderItem::listing() const {
     if (!listing_)
@@ -56,7 +62,9 @@ const std::vector<std::string> &FolderItem::listing() const {
     return *listing_;
 }
 
-std::size_t FolderItem::Count() const { return listing().size(); }
+std::size_t FolderItem::Count() const {
+    return listing().size();
+}
 
 Ref<FolderItem> FolderItem::Item(std::size_t index) const {
     if (index < 1 || index > Count())
@@ -68,14 +76,17 @@ Ref<FolderItem> FolderItem::Child(std::string_view name) const {
     const std::string_view outlawed{"/\0", 2};
     if (!Directory() || name.empty() || name == "." || name == ".." ||
         name.find_first_of(outlawed) != std::string_view::npos)
-        return Ref<FolderItem>::nil("“" + path_ + "” can have no item “" + std::string(name) + "”.");
+        return Ref<FolderItem>::nil("“" + path_ + "” can have no item “" + std::string(name) +
+                                    "”.");
     return Ref(std::make_shared<FolderItem>(withEndSeparator(path_).append(name)));
 }
 
-void FolderItem::CreateAsFolder() const { disk::makeFolder(path_); }
+void FolderItem::CreateAsFolder() const {
+    disk::makeFolder(path_);
+}
 
 void FolderItem::CopyFileTo(const FolderItem &target) const {
-    constexpr std::size_t kBlock = std::size_t{1} << 20U;
+    constexpr std::size_t kMostBlock = std::size_t{1} << 20U;
     std::string problem;
     disk::InputFile source(path_, problem);
     if (!source.isOpen())
@@ -85,7 +96,7 @@ void FolderItem::CopyFileTo(const FolderItem &target) const {
         return;
     try {
         std::string block;
-        while (source.readSome(block, kBlock)) {
+        while (source.readSome(block, std::clamp(source.size(), kLeastBlock, kMostBlock))) {
             copy.write(block);
             block.clear();
         }
@@ -96,7 +107,9 @@ void FolderItem::CopyFileTo(const FolderItem &target) const {
     }
 }
 
-void FolderItem::Delete() const { disk::remove(path_); }
+void FolderItem::Delete() const {
+    disk::remove(path_);
+}
 
 Ref<TextOutputStream> FolderItem::CreateTextFile() const {
     std::string problem;
@@ -112,13 +125,17 @@ Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
     if (!file.isOpen())
         return Ref<TextInputStream>::nil(problem);
     std::string text;
-    // One byte more than the size shows the end without a second block.
-    while (file.readSome(text, std::max(file.size() + 1 - std::min(file.size(), text.size()), kLeastBlock))) {
-    }
+    text.reserve(file.size() +
+                 kLeastBlock); // the end shows in a read of nothing, which needs room too
+    std::size_t wanted = file.size();
+    while (file.readSome(text, std::max(wanted, kLeastBlock)))
+        wanted = file.size() - std::min(file.size(), text.size());
     return Ref(std::make_shared<TextInputStream>(std::move(text)));
 }
 
-void FolderItem::Launch(bool activate) const { Desktop::current().launch(path_, activate); }
+void FolderItem::Launch(bool activate) const {
+    Desktop::current().launch(path_, activate);
+}
 
 Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {
     if (path.empty())
@@ -126,7 +143,7 @@ Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {
     if (!path.starts_with(kSeparator) || path.find('\0') != std::string::npos)
         return Ref<FolderItem>::nil("“" + path + "” is no full path of a folder or file.");
     if (disk::kindOf(parentOf(withoutEndSeparator(path))) != disk::Kind::folder)
-        return Ref<FolderItem>::nil("“" + path + "” cannot be found.");
+        return Ref<FolderItem>::nil("“" + path + "” is in a folder that does not exist.");
     return Ref(std::make_shared<FolderItem>(path));
 }
 

@@ -32,6 +32,8 @@ void TextOutputStream::WriteLine(std::string_view text) {
     sink_->write(EndOfLine);
 }
 
-void TextOutputStream::Close() { sink_->commit(); }
+void TextOutputStream::Close() {
+    sink_->commit();
+}
 
 } // namespace norvane

@@ -11,9 +11,9 @@ class TextInputStream {
   public:
     explicit TextInputStream(std::string text) : text_(std::move(text)) {}
 
-    /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the last
-    /// ending is a line as well. At the end of the file, the empty text. The view holds until Close
-    /// or the end of the stream.
+    /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the
+    /// last ending is a line as well. At the end of the file, the empty text. The view holds until
+    /// Close or the end of the stream.
     std::string_view ReadLine();
 
     /// True when nothing is left to read. (C's own macro bars the shorter name.)
@@ -29,7 +29,8 @@ class TextInputStream {
 
     std::string text_;
     std::size_t position_ = 0;
-    // Where the next LF and CR stand, as last found: a file without one is searched for it only once.
+    // Where the next LF and CR stand, as last found: a file without one is searched for it only
+    // once.
     std::size_t nextLineFeed_ = 0;
     std::size_t nextReturn_ = 0;
 };

@@ -9,14 +9,14 @@
 namespace norvane {
 
 Timer::Timer() {
-    Mode.changed = [this] { Mode == 0 || !Enabled ? stop() : start(); };
+    Mode.changed = [this] { restart(); };
     Enabled.changed = Mode.changed;
     Period.changed = [this] {
-        if (running_ && !due_)
-            start();
+        if (!due_)
+            restart();
     };
     Desktop::current().add(*this);
-    start();
+    restart();
 }
 
 Timer::~Timer() {
@@ -25,28 +25,23 @@ Timer::~Timer() {
 }
 
 void Timer::Reset() {
-    if (Enabled)
-        start();
+    if (!Enabled)
+        return;
+    Mode = 2; // so that the next 0 is a change, and stops the timer again
+    restart();
 }
 
 void Timer::tick() {
-    start();
+    restart();
     guarded(Action);
 }
 
-void Timer::start() {
-    running_ = true;
+void Timer::restart() {
     due_.reset();
-    if (Period > 0) {
+    if (runs() && Period > 0) {
         const TimePoint now = Desktop::current().now();
         due_ = now + std::min(Period.get(), std::numeric_limits<TimePoint>::max() - now);
     }
-    Desktop::current().timersChanged();
-}
-
-void Timer::stop() {
-    running_ = false;
-    due_.reset();
     Desktop::current().timersChanged();
 }
 

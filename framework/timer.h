@@ -12,9 +12,8 @@ namespace norvane {
 /// A point in time of the desktop's steady clock, in milliseconds.
 using TimePoint = std::int64_t;
 
-/// A repeating timer. It runs while Enabled is true, from Reset on or from the moment that Enabled or
-/// Mode turned it on, until Enabled turns false or Mode is set to 0; Reset starts it again whatever
-/// Mode was set to before. The desktop calls tick when the wait is over.
+/// A repeating timer. It runs while Enabled is true and Mode is not 0. Reset is also the way back
+/// from a Mode of 0. The desktop calls tick when the wait is over.
 class Timer {
   public:
     Timer();
@@ -23,12 +22,12 @@ class Timer {
     Timer &operator=(const Timer &) = delete;
 
     Property<int> Mode{2}; // 0 off, 2 repeating
-    /// Milliseconds. A change applies from the next wait. With 0 or less the timer waits for ever, and
-    /// the wait begins when a positive one comes.
+    /// Milliseconds. A change applies from the next wait. With 0 or less the timer waits for ever,
+    /// and the wait begins when a positive one comes.
     Property<std::int64_t> Period{60000};
     Property<bool> Enabled{true};
 
-    /// Starts a whole wait, where Enabled is true.
+    /// Starts a whole wait and sets Mode to 2; does nothing where Enabled is false.
     void Reset();
 
     std::function<void()> Action;
@@ -40,10 +39,9 @@ class Timer {
     void tick();
 
   private:
-    void start();
-    void stop();
+    bool runs() const { return Enabled && Mode != 0; }
+    void restart();
 
-    bool running_ = false;
     std::optional<TimePoint> due_;
 };
 

@@ -7,7 +7,9 @@
 
 namespace norvane {
 
-std::vector<std::string> HeadlessDesktop::takeLog() { return std::exchange(log_, {}); }
+std::vector<std::string> HeadlessDesktop::takeLog() {
+    return std::exchange(log_, {});
+}
 
 std::vector<std::string> HeadlessDesktop::problems() const {
     std::vector<std::string> all = problems_;
@@ -57,7 +59,8 @@ void HeadlessDesktop::advance(std::int64_t milliseconds) {
     const auto nextDue = [this, end] {
         Timer *next = nullptr;
         for (Timer *timer : timers_) {
-            if (timer->due() && *timer->due() <= end && (next == nullptr || *timer->due() < *next->due()))
+            if (timer->due() && *timer->due() <= end &&
+                (next == nullptr || *timer->due() < *next->due()))
                 next = timer;
         }
         return next;
@@ -80,7 +83,8 @@ Ref<FolderItem> HeadlessDesktop::chooseFile(const std::string &fileType) {
     return answerTo(kFileDialog);
 }
 
-Ref<FolderItem> HeadlessDesktop::chooseSaveFile(const std::string &fileType, const std::string &defaultName) {
+Ref<FolderItem> HeadlessDesktop::chooseSaveFile(const std::string &fileType,
+                                                const std::string &defaultName) {
     log_.push_back(std::string(kSaveDialog) + " " + fileType + " " + defaultName);
     return answerTo(kSaveDialog);
 }
@@ -90,9 +94,13 @@ Ref<FolderItem> HeadlessDesktop::chooseFolder() {
     return answerTo(kFolderDialog);
 }
 
-void HeadlessDesktop::launch(const std::string &path, bool /*activate*/) { log_.push_back("launch " + path); }
+void HeadlessDesktop::launch(const std::string &path, bool /*activate*/) {
+    log_.push_back("launch " + path);
+}
 
-void HeadlessDesktop::showURL(const std::string &address) { log_.push_back("url " + address); }
+void HeadlessDesktop::showURL(const std::string &address) {
+    log_.push_back("url " + address);
+}
 
 void HeadlessDesktop::add(Window &window) {
     for (Control *control : window.controls()) {
@@ -102,7 +110,9 @@ void HeadlessDesktop::add(Window &window) {
     }
 }
 
-void HeadlessDesktop::show(Window &window) { log_.push_back("show " + window.Title); }
+void HeadlessDesktop::show(Window &window) {
+    log_.push_back("show " + window.Title);
+}
 
 void HeadlessDesktop::remove(Window & /*window*/) {}
 

@@ -10,8 +10,8 @@
 
 namespace norvane {
 
-/// The desktop without a screen: dialogs take scripted answers, in order; what a user would have seen
-/// goes into a log; time moves when told to.
+/// The desktop without a screen: dialogs take scripted answers, in order; what a user would have
+/// seen goes into a log; time moves when told to.
 class HeadlessDesktop : public Desktop {
   public:
     HeadlessDesktop() { setCurrent(*this); }
@@ -20,16 +20,18 @@ class HeadlessDesktop : public Desktop {
     // resolved counts as Cancel.
     void answerFile(Ref<FolderItem> item) { answers_.push_back({kFileDialog, std::move(item)}); }
     void answerSave(Ref<FolderItem> item) { answers_.push_back({kSaveDialog, std::move(item)}); }
-    void answerFolder(Ref<FolderItem> item) { answers_.push_back({kFolderDialog, std::move(item)}); }
+    void answerFolder(Ref<FolderItem> item) {
+        answers_.push_back({kFolderDialog, std::move(item)});
+    }
     static Ref<FolderItem> cancel() { return Ref<FolderItem>::nil("the dialog was cancelled."); }
 
     /// What the user saw since the last call, in order: a line "message TEXT", "open dialog TYPE",
-    /// "save dialog TYPE NAME", "folder dialog", "launch PATH", "url ADDRESS", "show TITLE" each, and
-    /// "CONTROL shown" or "CONTROL hidden" for controls of opened windows.
+    /// "save dialog TYPE NAME", "folder dialog", "launch PATH", "url ADDRESS", "show TITLE" each,
+    /// and "CONTROL shown" or "CONTROL hidden" for controls of opened windows.
     std::vector<std::string> takeLog();
 
-    /// Dialogs that no answer stood ready for, answers that no dialog took, and clicks on what cannot
-    /// be clicked.
+    /// Dialogs that no answer stood ready for, answers that no dialog took, and clicks on what
+    /// cannot be clicked.
     std::vector<std::string> problems() const;
 
     // The user's hand, under the guard.
@@ -46,7 +48,8 @@ class HeadlessDesktop : public Desktop {
 
     void message(const std::string &text) override;
     Ref<FolderItem> chooseFile(const std::string &fileType) override;
-    Ref<FolderItem> chooseSaveFile(const std::string &fileType, const std::string &defaultName) override;
+    Ref<FolderItem> chooseSaveFile(const std::string &fileType,
+                                   const std::string &defaultName) override;
     Ref<FolderItem> chooseFolder() override;
     void launch(const std::string &path, bool activate) override;
     void showURL(const std::string &address) override;

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "framework/file_type.h"
+#include "framework/folder_item.h"
+
+#include <QMessageBox>
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace norvane {
+
+/// The modal dialogs. Each stands before the active window, or alone when there is none, and blocks
+/// until the user has answered.
+class Dialogs {
+  public:
+    /// Lets the open and save dialogs filter by this type's name.
+    void add(const FileType &type) { types_.push_back(type); }
+
+    /// A box with one button.
+    static void message(QMessageBox::Icon icon, const std::string &text);
+
+    // A file of the type, or of any other; a place to save at, asking before a file is replaced; a
+    // folder. All begin in the folder used last, and give nil on Cancel.
+    Ref<FolderItem> openFile(const std::string &fileType);
+    Ref<FolderItem> saveFile(const std::string &fileType, const std::string &defaultName);
+    Ref<FolderItem> folder();
+
+  private:
+    QString filterFor(const std::string &fileType) const;
+    Ref<FolderItem> chosen(const QString &path, const QString &itsFolder);
+
+    std::vector<FileType> types_;
+    QString lastFolder_;
+};
+
+} // namespace norvane

@@ -1,0 +1,59 @@
+#include "framework/guard.h"
+#include "framework/qt/qt_text.h"
+#include "framework/qt/widgets.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace norvane {
+
+namespace {
+
+Qt::Alignment horizontal(Alignment alignment) {
+    return alignment == Alignment::centred ? Qt::AlignHCenter : Qt::AlignLeft;
+}
+
+} // namespace
+
+QWidget *makeTextField(TextField &field, QWidget *parent) {
+    auto *widget = new QLineEdit(parent);
+    widget->setAlignment(horizontal(field.alignment) | Qt::AlignVCenter);
+    follow(field.Text, widget, [&field, widget] {
+        const QString text = toQt(field.Text);
+        if (widget->text() == text)
+            return;
+        // The model may hold bytes that Qt's text cannot: what is shown must not be written back.
+        const QSignalBlocker noEcho(widget);
+        widget->setText(text);
+    });
+    QObject::connect(widget, &QLineEdit::textChanged, [&field](const QString &text) {
+        guarded([&] { field.Text = text.toStdString(); });
+    });
+    return widget;
+}
+
+QWidget *makeLabel(Label &label, QWidget *parent) {
+    auto *widget = new QLabel(parent);
+    widget->setTextFormat(Qt::PlainText);
+    widget->setWordWrap(label.multiline);
+    widget->setAlignment(horizontal(label.alignment) |
+                         (label.multiline ? Qt::AlignTop : Qt::AlignVCenter));
+    widget->setAttribute(Qt::WA_TransparentForMouseEvents); // labels overlap what is beside them
+    if (label.TextSize > 0) {
+        QFont font = widget->font();
+        font.setPixelSize(label.TextSize);
+        widget->setFont(font);
+    }
+    if (label.grey) {
+        constexpr QColor kGrey(128, 128, 128);
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::WindowText, kGrey);
+        widget->setPalette(palette);
+    }
+    follow(label.Text, widget,
+           [&label, widget] { widget->setText(toQt(label.Text).replace(u'\r', u'\n')); });
+    return widget;
+}
+
+} // namespace norvane

@@ -1,0 +1,144 @@
+#include "framework/qt/qt_desktop.h"
+
+#include "framework/qt/qt_text.h"
+#include "framework/window.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFile>
+#include <QUrl>
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+namespace norvane {
+
+QtDesktop::QtDesktop() {
+    setCurrent(*this);
+    // A dialog that closes while no window is shown must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    alarm_.setSingleShot(true);
+    alarm_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&alarm_, &QTimer::timeout, [this] { raiseTicks(); });
+}
+
+QtDesktop::~QtDesktop() {
+    for (const auto &[window, peer] : peers_)
+        delete peer;
+}
+
+QWidget *QtDesktop::peerOf(const Window &window) const {
+    const auto found = peers_.find(&window);
+    return found == peers_.end() ? nullptr : found->second;
+}
+
+void QtDesktop::quit() {
+    while (!windows_.empty())
+        windows_.back()->Close();
+    QCoreApplication::exit();
+}
+
+void QtDesktop::message(const std::string &text) {
+    Dialogs::message(QMessageBox::Information, text);
+}
+
+void QtDesktop::failure(const std::string &text) {
+    Dialogs::message(QMessageBox::Warning, text);
+}
+
+Ref<FolderItem> QtDesktop::chooseFile(const std::string &fileType) {
+    return dialogs.openFile(fileType);
+}
+
+Ref<FolderItem> QtDesktop::chooseSaveFile(const std::string &fileType,
+                                          const std::string &defaultName) {
+    return dialogs.saveFile(fileType, defaultName);
+}
+
+Ref<FolderItem> QtDesktop::chooseFolder() {
+    return dialogs.folder();
+}
+
+void QtDesktop::launch(const std::string &path, bool /*activate*/) {
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(path.c_str()))))
+        message("The desktop has no program that opens this file:\n" + path);
+}
+
+void QtDesktop::showURL(const std::string &address) {
+    if (!QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(address))))
+        message("The desktop has no program that opens this page:\n" + address);
+}
+
+void QtDesktop::add(Window &window) {
+    windows_.push_back(&window);
+}
+
+void QtDesktop::show(Window &window) {
+    QPointer<WindowPeer> &peer = peers_[&window];
+    if (!peer)
+        peer = new WindowPeer(window, *application_, pictures, [this] { quit(); });
+    peer->show();
+    peer->setWindowState(peer->windowState() & ~Qt::WindowMinimized);
+    peer->raise();
+    peer->activateWindow();
+}
+
+void QtDesktop::remove(Window &window) {
+    std::erase(windows_, &window);
+    const auto found = peers_.find(&window);
+    if (found == peers_.end())
+        return;
+    if (WindowPeer *peer = found->second) {
+        peer->hide();
+        peer->deleteLater(); // the event that closed it may still be on its way through it
+    }
+    peers_.erase(found);
+#ifndef Q_OS_MACOS // where the menu bar is the screen's, the program stays
+    if (peers_.empty())
+        QCoreApplication::exit();
+#endif
+}
+
+TimePoint QtDesktop::now() const {
+    const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(sinceStart).count();
+}
+
+void QtDesktop::add(Timer &timer) {
+    timers_.push_back(&timer);
+}
+
+void QtDesktop::remove(Timer &timer) {
+    std::erase(timers_, &timer);
+    timersChanged();
+}
+
+void QtDesktop::timersChanged() {
+    constexpr TimePoint kLongestWait = std::numeric_limits<int>::max();
+    TimePoint wait = kLongestWait;
+    bool waiting = false;
+    for (const Timer *timer : timers_) {
+        if (!timer->due())
+            continue;
+        waiting = true;
+        wait = std::min(wait, std::max<TimePoint>(*timer->due() - now(), 0));
+    }
+    if (waiting)
+        alarm_.start(static_cast<int>(wait));
+    else
+        alarm_.stop();
+}
+
+void QtDesktop::raiseTicks() {
+    const TimePoint moment = now();
+    const std::vector<Timer *> timers = timers_;
+    for (Timer *timer : timers) {
+        const bool exists = std::ranges::find(timers_, timer) != timers_.end();
+        if (exists && timer->due() && *timer->due() <= moment)
+            timer->tick();
+    }
+    timersChanged();
+}
+
+} // namespace norvane

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "framework/application.h"
+#include "framework/desktop.h"
+#include "framework/file_type.h"
+#include "framework/qt/dialogs.h"
+#include "framework/qt/pictures.h"
+#include "framework/qt/window_peer.h"
+
+#include <QPointer>
+#include <QTimer>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace norvane {
+
+/// The desktop on Qt 6 Widgets. A QApplication must exist for as long as it does. The event loop is
+/// Qt's; it ends when the last window has gone.
+class QtDesktop : public Desktop {
+  public:
+    /// Becomes the current desktop.
+    QtDesktop();
+    ~QtDesktop() override;
+    QtDesktop(const QtDesktop &) = delete;
+    QtDesktop &operator=(const QtDesktop &) = delete;
+
+    /// Whose handlers the menus run; not owned. Before the first window is shown.
+    void setApplication(Application &application) { application_ = &application; }
+
+    Pictures pictures;
+    Dialogs dialogs;
+
+    /// The window on screen; null for one that is not shown.
+    QWidget *peerOf(const Window &window) const;
+
+    /// Closes all windows and ends the event loop.
+    void quit();
+
+    void message(const std::string &text) override;
+    void failure(const std::string &text) override;
+    Ref<FolderItem> chooseFile(const std::string &fileType) override;
+    Ref<FolderItem> chooseSaveFile(const std::string &fileType,
+                                   const std::string &defaultName) override;
+    Ref<FolderItem> chooseFolder() override;
+    void launch(const std::string &path, bool activate) override;
+    void showURL(const std::string &address) override;
+    void add(Window &window) override;
+    void show(Window &window) override;
+    void remove(Window &window) override;
+    TimePoint now() const override;
+    void add(Timer &timer) override;
+    void remove(Timer &timer) override;
+    void timersChanged() override;
+
+  private:
+    void raiseTicks();
+
+    Application *application_ = nullptr;
+    std::map<const Window *, QPointer<WindowPeer>> peers_;
+    std::vector<Window *> windows_;
+    std::vector<Timer *> timers_;
+    QTimer alarm_; // goes off at the earliest due time
+};
+
+} // namespace norvane

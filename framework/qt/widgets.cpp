@@ -1,0 +1,87 @@
+#include "framework/qt/widgets.h"
+
+#include "framework/qt/qt_text.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFrame>
+#include <QListWidget>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace norvane {
+
+namespace {
+
+/// A picture, as large as fits the area and in its top left corner.
+class PictureWidget : public QWidget {
+  public:
+    PictureWidget(const QIcon &picture, QWidget *parent) : QWidget(parent), picture_(picture) {}
+
+  protected:
+    void paintEvent(QPaintEvent * /*event*/) override {
+        const int side = std::min(width(), height());
+        QPainter painter(this);
+        picture_.paint(&painter, 0, 0, side, side);
+    }
+
+  private:
+    QIcon picture_;
+};
+
+QWidget *makeSeparator(QWidget *parent) {
+    auto *line = new QFrame(parent);
+    line->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    return line;
+}
+
+QWidget *widgetOfKind(Control &control, QWidget *parent, Pictures &pictures) {
+    if (auto *bevelButton = dynamic_cast<BevelButton *>(&control))
+        return makeButton(*bevelButton, parent);
+    if (auto *pushButton = dynamic_cast<PushButton *>(&control))
+        return makeButton(*pushButton, parent);
+    if (auto *checkBox = dynamic_cast<CheckBox *>(&control))
+        return makeCheckBox(*checkBox, parent);
+    if (auto *radioButton = dynamic_cast<RadioButton *>(&control))
+        return makeRadioButton(*radioButton, parent);
+    if (auto *arrow = dynamic_cast<PopupArrow *>(&control))
+        return makeArrow(*arrow, parent);
+    if (auto *field = dynamic_cast<TextField *>(&control))
+        return makeTextField(*field, parent);
+    if (auto *label = dynamic_cast<Label *>(&control))
+        return makeLabel(*label, parent);
+    if (auto *bar = dynamic_cast<ProgressBar *>(&control))
+        return makeProgressBar(*bar, parent);
+    if (auto *canvas = dynamic_cast<Canvas *>(&control))
+        return new PictureWidget(pictures.find(canvas->Backdrop), parent);
+    if (dynamic_cast<Separator *>(&control) != nullptr)
+        return makeSeparator(parent);
+    if (dynamic_cast<Listbox *>(&control) != nullptr)
+        return new QListWidget(parent);
+    return new QWidget(parent);
+}
+
+/// Paints at once what is marked as changed in the widget's window: nothing, when nothing is.
+void paintNow(QWidget *widget) {
+    QEvent request(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(widget->window(), &request);
+}
+
+} // namespace
+
+QWidget *makeWidget(Control &control, QWidget *parent, Pictures &pictures) {
+    QWidget *widget = widgetOfKind(control, parent, pictures);
+    widget->setObjectName(toQt(control.Name));
+    widget->setGeometry(control.Left, control.Top, control.Width, control.Height);
+    if (!control.accessibleName.empty())
+        widget->setAccessibleName(toQt(control.accessibleName));
+    follow(control.Enabled, widget, [&control, widget] { widget->setEnabled(control.Enabled); });
+    control.repaint = [alive = QPointer<QWidget>(widget)](bool immediately) {
+        if (alive && immediately)
+            paintNow(alive);
+    };
+    return widget;
+}
+
+} // namespace norvane

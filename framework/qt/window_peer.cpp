@@ -1,0 +1,100 @@
+#include "framework/qt/window_peer.h"
+
+#include "framework/qt/qt_text.h"
+#include "framework/qt/widgets.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+namespace norvane {
+
+namespace {
+
+constexpr int kSystemFontPixels = 13;
+
+Qt::WindowFlags flagsOf(const Window &window) {
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    flags.setFlag(Qt::WindowSystemMenuHint);
+    flags.setFlag(Qt::WindowCloseButtonHint, window.CloseButton);
+    flags.setFlag(Qt::WindowMinimizeButtonHint, window.MinimizeButton);
+    flags.setFlag(Qt::WindowMaximizeButtonHint, window.MaximizeButton);
+    flags.setFlag(Qt::WindowFullscreenButtonHint, window.FullScreenButton);
+    return flags;
+}
+
+} // namespace
+
+WindowPeer::WindowPeer(Window &window, Application &application, Pictures &pictures,
+                       std::function<void()> quit)
+    : QWidget(nullptr, flagsOf(window)), window_(window) {
+    setWindowTitle(toQt(window.Title));
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    if (window.MenuBar != nullptr && window.MenuBarVisible) {
+        menus_ = new Menus(*window.MenuBar, application, std::move(quit), this);
+        column->setMenuBar(menus_);
+    }
+    area_ = new QWidget(this);
+    column->addWidget(area_);
+    if (window.Resizeable) {
+        area_->setMinimumSize(window.MinWidth, window.MinHeight);
+        area_->setMaximumSize(window.MaxWidth, window.MaxHeight);
+    } else {
+        column->setSizeConstraint(QLayout::SetFixedSize);
+    }
+    addControls(pictures);
+    follow(window.Width, this, [this] { takeSize(); });
+    follow(window.Height, this, [this] { takeSize(); });
+}
+
+void WindowPeer::addControls(Pictures &pictures) {
+    QFont font = area_->font();
+    font.setPixelSize(kSystemFontPixels);
+    area_->setFont(font);
+    for (Control *control : window_.controls()) {
+        QWidget *widget = makeWidget(*control, area_, pictures);
+        placed_.push_back({control, widget});
+        follow(control->Visible, widget, [this] { showWhatIsInView(); });
+    }
+}
+
+void WindowPeer::takeSize() {
+    if (window_.Resizeable) {
+        resize(window_.Width, window_.Height + menuBarHeight());
+    } else {
+        area_->setFixedSize(window_.Width, window_.Height);
+        layout()->activate();
+    }
+    showWhatIsInView();
+}
+
+void WindowPeer::showWhatIsInView() {
+    const QRect area(0, 0, window_.Width, window_.Height);
+    for (const auto &[control, widget] : placed_)
+        widget->setVisible(control->Visible && area.intersects(widget->geometry()));
+}
+
+int WindowPeer::menuBarHeight() const {
+    return menus_ != nullptr ? menus_->heightForWidth(window_.Width) : 0;
+}
+
+void WindowPeer::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    if (!window_.Resizeable)
+        return;
+    const QSize size = area_->size(); // the first assignment changes the area
+    window_.Width = size.width();
+    window_.Height = size.height();
+}
+
+void WindowPeer::closeEvent(QCloseEvent *event) {
+    // A dialog stands in the middle of an action, which still needs the window.
+    if (QApplication::activeModalWidget() != nullptr) {
+        event->ignore();
+        return;
+    }
+    window_.Close();
+}
+
+} // namespace norvane

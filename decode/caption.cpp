@@ -3,6 +3,7 @@
 #include "decode/chain_table.h"
 #include "decode/letters.h"
 #include "decode/replacement_chain.h"
+#include "decode/words.h"
 #include "framework/text.h"
 
 namespace norvane {
@@ -15,7 +16,8 @@ constexpr std::string_view kTwoBlanks = "2020"; // as caption bytes
 void appendPair(std::string &letters, std::string_view pair) {
     std::string_view letter;
     if (pair.size() == 2 && hexDigitValue(pair[0]) >= 0 && hexDigitValue(pair[1]) >= 0)
-        letter = letterOf(static_cast<unsigned char>(hexDigitValue(pair[0]) * 16 + hexDigitValue(pair[1])));
+        letter = letterOf(
+            static_cast<unsigned char>(hexDigitValue(pair[0]) * 16 + hexDigitValue(pair[1])));
     letters += letter.empty() ? pair : letter;
 }
 
@@ -36,11 +38,14 @@ std::string letters(std::string_view text) {
 } // namespace
 
 void appendCaption(std::string &captions, std::string_view hexText) {
+    if (appendCaptionByWords(captions, hexText))
+        return;
     std::string text = replaceCodeWords(hexText);
     if (text.empty())
         text = kTwoBlanks;
     if (characterSize(text) == text.size())
-        throw OutOfBoundsException("the codes “" + std::string(hexText) + "” leave no pair of characters.");
+        throw OutOfBoundsException("the codes “" + std::string(hexText) +
+                                   "” leave no pair of characters.");
     const TableRow &marks = kReplacementChain[kMarksRow - 1];
     captions += ReplaceAll(letters(text), marks.key, marks.with);
 }

@@ -6,13 +6,13 @@
 #include <cstddef>
 #include <string_view>
 
-/// The replacement chain: what a decode does to a line's hex text, row after row on the whole text, in
-/// this order. The keys are CEA-608 codes with their odd parity bits. Rows that repeat a key act on
-/// what earlier rows left, so none is redundant and none may move.
+/// The replacement chain: what a decode does to a line's hex text, row after row on the whole text,
+/// in this order. The keys are CEA-608 codes with their odd parity bits. Rows that repeat a key act
+/// on what earlier rows left, so none is redundant and none may move.
 namespace norvane {
 
-/// Rows `first` to `last`, numbered from 1, that all put in `with`. The keys are parted by blanks; the
-/// key of a group of one row is the whole text.
+/// Rows `first` to `last`, numbered from 1, that all put in `with`. The keys are parted by blanks;
+/// the key of a group of one row is the whole text.
 struct ChainGroup {
     std::size_t first;
     std::size_t last;

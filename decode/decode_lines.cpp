@@ -32,7 +32,8 @@ std::string_view takeField(std::string_view &line) {
 
 /// The start of a line's caption, which its own words delay by their transmission.
 std::string unbuffered(std::string_view timecode, std::string_view hexText) {
-    const double bufferTime = static_cast<double>(Len(hexText)) / kCharactersPerWord / kFramesPerSecond;
+    const double bufferTime =
+        static_cast<double>(Len(hexText)) / kCharactersPerWord / kFramesPerSecond;
     const double startTime = Val(timecodeToSecondsSCC(ReplaceAll(timecode, ";", ":"))) + bufferTime;
     return returnTimecode(startTime);
 }
@@ -58,8 +59,9 @@ bool Window1::decodeLines(TextInputStream &stream) {
         if (!patternRegEx.Search(lineArray[i]))
             return stopAtBadLine("There does not appear to be any timecode in this file.");
         if (!tabRegEx.Search(lineArray[i]))
-            return stopAtBadLine("This SCC file does not appear to be formatted correctly. It needs to "
-                                 "have a tab between the timecode and the hexidecimal caption code.");
+            return stopAtBadLine(
+                "This SCC file does not appear to be formatted correctly. It needs to "
+                "have a tab between the timecode and the hexidecimal caption code.");
         std::string_view line = lineArray[i];
         const std::string_view timecode = takeField(line);
         const std::string_view hexText = takeField(line);
@@ -89,8 +91,14 @@ std::string Window1::timecodeToSecondsSCC(std::string_view timecode) {
 std::string Window1::timeCodeToSeconds(std::string_view timecode) {
     return norvane::timeCodeToSeconds(timecode);
 }
-std::string Window1::returnTimecode(double seconds) { return norvane::returnTimecode(seconds); }
-std::string Window1::convertSCC2Letters(std::string_view text) { return norvane::convertSCC2Letters(text); }
-std::string Window1::DoTheRest(std::string_view text) { return norvane::DoTheRest(text); }
+std::string Window1::returnTimecode(double seconds) {
+    return norvane::returnTimecode(seconds);
+}
+std::string Window1::convertSCC2Letters(std::string_view text) {
+    return norvane::convertSCC2Letters(text);
+}
+std::string Window1::DoTheRest(std::string_view text) {
+    return norvane::DoTheRest(text);
+}
 
 } // namespace norvane

@@ -218,13 +218,17 @@ std::string replaceByRows(std::string_view text, const std::array<TableRow, rows
 
 } // namespace
 
-std::string convertSCC2Letters(std::string_view text) { return replaceByRows(text, kLetters); }
+std::string convertSCC2Letters(std::string_view text) {
+    return replaceByRows(text, kLetters);
+}
 
 std::string_view letterOf(unsigned char byte) {
     const std::size_t row = kRowOfByte.at(byte);
     return row == 0 ? std::string_view() : kLetters.at(row - 1).with;
 }
 
-std::string DoTheRest(std::string_view text) { return replaceByRows(text, kSpecialCharacters); }
+std::string DoTheRest(std::string_view text) {
+    return replaceByRows(text, kSpecialCharacters);
+}
 
 } // namespace norvane

@@ -1,6 +1,7 @@
 #include "decode/replacement_chain.h"
 
 #include "decode/chain_table.h"
+#include "decode/rows_of_code.h"
 #include "framework/text.h"
 
 #include <bitset>
@@ -16,34 +17,6 @@ constexpr std::size_t kFiller = kFillerRow - 1;
 
 using Rows = std::bitset<kChainRows>;
 
-constexpr bool isCodeWord(std::string_view key) { return key.size() == 4 && hexDigitValue(key[0]) >= 0; }
-
-constexpr std::size_t codeOf(std::string_view word) {
-    std::size_t code = 0;
-    for (const char digit : word)
-        code = code * 16 + static_cast<std::size_t>(hexDigitValue(digit));
-    return code;
-}
-
-/// The rows of each code word: the first one, and for each row the next one of the same key. Both
-/// count from 1, and 0 is none.
-struct RowsOfCode {
-    std::array<unsigned short, 0x10000> first{};
-    std::array<unsigned short, kChainRows + 1> next{};
-};
-
-constexpr RowsOfCode kRowsOfCode = [] {
-    RowsOfCode rows;
-    for (std::size_t row = kChainRows; row > 0; --row) {
-        const std::string_view key = kReplacementChain.at(row - 1).key;
-        if (!isCodeWord(key))
-            continue;
-        rows.next.at(row) = rows.first.at(codeOf(key));
-        rows.first.at(codeOf(key)) = static_cast<unsigned short>(row);
-    }
-    return rows;
-}();
-
 /// The rows whose keys occur in `text`.
 Rows rowsThatOccur(std::string_view text) {
     Rows rows;
@@ -55,7 +28,8 @@ Rows rowsThatOccur(std::string_view text) {
         if (value >= 0) {
             code = (code * 16 + static_cast<std::size_t>(value)) & 0xFFFFU;
             if (++digits >= 4) {
-                for (std::size_t row = kRowsOfCode.first[code]; row != 0; row = kRowsOfCode.next[row])
+                for (std::size_t row = kRowsOfCode.first[code]; row != 0;
+                     row = kRowsOfCode.next[row])
                     rows.set(row - 1);
             }
             if (digits >= 2 && (code & 0xFFU) == 0x80)
@@ -76,8 +50,9 @@ Rows rowsThatOccur(std::string_view text) {
 
 } // namespace
 
-// A row whose key does not occur does nothing. Only a row that ran can bring keys about, in what it put
-// in (bars) or where a deletion joined what it parted, so the text is looked at again after each.
+// A row whose key does not occur does nothing. Only a row that ran can bring keys about, in what it
+// put in (bars) or where a deletion joined what it parted, so the text is looked at again after
+// each.
 std::string replaceCodeWords(std::string_view hexText) {
     std::string text(hexText);
     Rows rows = rowsThatOccur(text);

@@ -25,9 +25,9 @@ std::string timeCodeToSeconds(std::string_view timecode) {
     return Str(wholeSeconds(Split(timecode, ":"), 3, timecode));
 }
 
-// The carries go through text of seven significant digits, and what that loses belongs to the result:
-// a quotient that Str rounds up to a whole minute is that minute, and the remainder below zero that
-// this leaves reads as 0 behind the "0" put in front of it.
+// The carries go through text of seven significant digits, and what that loses belongs to the
+// result: a quotient that Str rounds up to a whole minute is that minute, and the remainder below
+// zero that this leaves reads as 0 behind the "0" put in front of it.
 std::string returnTimecode(double seconds) {
     std::string hoursText = "00";
     std::string minutesText = "00";

@@ -5,12 +5,13 @@
 
 namespace norvane {
 
-/// Nominal frames per second, for every file: drop-frame numbering (SMPTE ST 12) is not compensated.
+/// Nominal frames per second, for every file: drop-frame numbering (SMPTE ST 12) is not
+/// compensated.
 inline constexpr double kFramesPerSecond = 30.0;
 
-/// The seconds of an SCC timecode "HH:MM:SS:FF", as the text of Str: "01:02:03:15" is "3723.5". A field
-/// that is no number counts as Val reads it; further fields are ignored. Throws OutOfBoundsException
-/// when there are fewer than four fields.
+/// The seconds of an SCC timecode "HH:MM:SS:FF", as the text of Str: "01:02:03:15" is "3723.5". A
+/// field that is no number counts as Val reads it; further fields are ignored. Throws
+/// OutOfBoundsException when there are fewer than four fields.
 std::string timecodeToSecondsSCC(std::string_view timecode);
 
 /// The seconds of a time "HH:MM:SS", whose seconds may have decimals, as the text of Str. Throws

@@ -56,7 +56,7 @@ class FolderItem {
     virtual Ref<TextOutputStream> CreateTextFile() const;
 
     /// A stream over the file's text; nil for whatever is no readable regular file.
-    Ref<TextInputStream> OpenAsTextFile() const;
+    virtual Ref<TextInputStream> OpenAsTextFile() const;
 
     /// Opens the file in the application that the desktop has for it.
     void Launch(bool activate) const;

@@ -16,7 +16,7 @@ rule() {
 }
 
 text='framework/(text|text_array|numbers|failures)\.h'
-decode='decode/(accent_pairs|caption|chain_table|letters|replacement_chain|table_row|timecode|word_table)\.h'
+decode='decode/(accent_pairs|caption|chain_table|letters|crossing_keys|replacement_chain|rows_of_code|table_row|timecode|words)\.h'
 rule 'framework/*.h framework/*.cpp' 'framework/[a-z_]+\.h'
 rule 'framework/headless/*' 'framework/[a-z_]+\.h|framework/headless/.*'
 rule "$(ls decode/*.h decode/*.cpp | grep -vE 'decode_lines|import_scc')" "$text|$decode"

@@ -1,0 +1,91 @@
+#include "bench/ordinary_scc.h"
+#include "decode/caption.h"
+#include "framework/headless/headless_desktop.h"
+#include "shell/window1.h"
+#include "tests/support/plain_walk.h"
+#include "transcript/clean_up.h"
+#include "transcript/layout.h"
+
+#include <benchmark/benchmark.h>
+
+#include <vector>
+
+namespace norvane {
+namespace {
+
+/// Hex texts of ordinary captions, and how many bytes of an SCC file they stand for.
+struct HexTexts {
+    explicit HexTexts(std::size_t count) {
+        constexpr std::size_t kTimecodeAndEnds = 14;
+        for (std::size_t caption = 0; caption < count; ++caption) {
+            texts.push_back(ordinaryHexText(caption));
+            sccBytes += texts.back().size() + kTimecodeAndEnds;
+        }
+    }
+    std::vector<std::string> texts;
+    std::size_t sccBytes = 0;
+};
+
+void count(benchmark::State &state, const HexTexts &lines) {
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(lines.sccBytes));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(lines.texts.size()));
+}
+
+void captionsByPlainWalk(benchmark::State &state) {
+    const HexTexts lines(100);
+    for (auto _ : state) {
+        for (const std::string &text : lines.texts)
+            benchmark::DoNotOptimize(plain::caption(text));
+    }
+    count(state, lines);
+}
+BENCHMARK(captionsByPlainWalk)->Unit(benchmark::kMillisecond);
+
+void captions(benchmark::State &state) {
+    const HexTexts lines(10'000);
+    std::string captions;
+    for (auto _ : state) {
+        captions.clear();
+        for (const std::string &text : lines.texts)
+            appendCaption(captions, text);
+        benchmark::DoNotOptimize(captions);
+    }
+    count(state, lines);
+}
+BENCHMARK(captions)->Unit(benchmark::kMillisecond);
+
+/// From the bytes of a file in memory to the bytes of its transcript, which go nowhere.
+void fileToTranscript(benchmark::State &state) {
+    class Nowhere : public TextSink {
+      public:
+        void write(std::string_view bytes) override { benchmark::DoNotOptimize(bytes.data()); }
+        void commit() override {}
+    };
+    class InMemory : public FolderItem {
+      public:
+        explicit InMemory(const std::string *text) : FolderItem("/memory.scc"), text_(text) {}
+        Ref<TextInputStream> OpenAsTextFile() const override {
+            return Ref(std::make_shared<TextInputStream>(*text_));
+        }
+        Ref<TextOutputStream> CreateTextFile() const override {
+            return Ref(std::make_shared<TextOutputStream>(std::make_unique<Nowhere>()));
+        }
+
+      private:
+        const std::string *text_;
+    };
+    HeadlessDesktop desktop;
+    class Window1 window;
+    const std::string text = ordinaryScc(10'000'000);
+    const Ref<FolderItem> item{std::shared_ptr<FolderItem>(std::make_shared<InMemory>(&text))};
+    for (auto _ : state) {
+        desktop.answerFile(item);
+        desktop.answerSave(item);
+        window.importSCC();
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+}
+BENCHMARK(fileToTranscript)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace norvane

@@ -21,6 +21,9 @@ class TextArray {
         return {bytes_.data() + piece.offset, piece.size};
     }
 
+    /// False when no text holds the ASCII character `c`.
+    bool holds(char c) const { return bytes_.find(c) != std::string::npos; }
+
     /// Puts `text`, which must not be a view of this array, in the place of the text at `index`;
     /// throws OutOfBoundsException past the end.
     void set(std::size_t index, std::string_view text);

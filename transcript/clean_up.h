@@ -10,8 +10,8 @@ namespace norvane {
 /// make), and an entry of one blank becomes empty. The number of entries stays.
 void cleanEntries(TextArray &captions);
 
-/// The text passes over a composed transcript: accent pairs, bars to blanks, and each run of n blanks
-/// to n / 8, rounded up.
-std::string cleanTranscript(std::string transcriptText);
+/// The text passes over a composed transcript, in place: accent pairs, bars to blanks, and each run of n
+/// blanks to n / 8, rounded up.
+void cleanTranscript(std::string &transcriptText);
 
 } // namespace norvane

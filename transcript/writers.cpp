@@ -52,7 +52,9 @@ std::string Window1::composeTranscript() {
     const Form form = TimecodeBox.Value    ? Form::timecode
                       : ParagraphBox.Value ? Form::paragraph
                                            : Form::line;
-    return cleanTranscript(layOut(form, captionArray2, timeCodeArray));
+    std::string transcriptText = layOut(form, captionArray2, timeCodeArray);
+    cleanTranscript(transcriptText);
+    return transcriptText;
 }
 
 std::string Window1::baseName() const { return fileName.substr(0, fileName.find('.')); }

@@ -5,7 +5,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace norvane {
 
@@ -21,6 +24,18 @@ Qt::WindowFlags flagsOf(const Window &window) {
     flags.setFlag(Qt::WindowMaximizeButtonHint, window.MaximizeButton);
     flags.setFlag(Qt::WindowFullscreenButtonHint, window.FullScreenButton);
     return flags;
+}
+
+/// Sets the text of a label closer, within reason, until it is no wider than `room`.
+void tighten(QLabel &label, int room) {
+    constexpr int kTightest = 90; // percent
+    QFont font = label.font();
+    for (int percent = 99; percent >= kTightest; --percent) {
+        if (label.fontMetrics().horizontalAdvance(label.text()) <= room)
+            return;
+        font.setLetterSpacing(QFont::PercentageSpacing, percent);
+        label.setFont(font);
+    }
 }
 
 } // namespace
@@ -44,6 +59,7 @@ WindowPeer::WindowPeer(Window &window, Application &application, Pictures &pictu
         column->setSizeConstraint(QLayout::SetFixedSize);
     }
     addControls(pictures);
+    keepLabelsClear();
     follow(window.Width, this, [this] { takeSize(); });
     follow(window.Height, this, [this] { takeSize(); });
 }
@@ -56,6 +72,24 @@ void WindowPeer::addControls(Pictures &pictures) {
         QWidget *widget = makeWidget(*control, area_, pictures);
         placed_.push_back({control, widget});
         follow(control->Visible, widget, [this] { showWhatIsInView(); });
+    }
+}
+
+// The places of some labels reach below the control beside them, which wide fonts would run into.
+void WindowPeer::keepLabelsClear() {
+    constexpr int kGap = 3;
+    for (const Placed &placed : placed_) {
+        auto *label = qobject_cast<QLabel *>(placed.widget);
+        if (label == nullptr || label->wordWrap())
+            continue;
+        int room = label->width();
+        const QPoint start(label->x(), label->geometry().center().y());
+        for (const Placed &other : placed_) {
+            const QRect place = other.widget->geometry();
+            if (place.left() > start.x() && place.contains(place.left(), start.y()))
+                room = std::min(room, place.left() - start.x() - kGap);
+        }
+        tighten(*label, room);
     }
 }
 

@@ -26,6 +26,7 @@ class WindowPeer : public QWidget {
 
   private:
     void addControls(Pictures &pictures);
+    void keepLabelsClear();
     void takeSize();
     void showWhatIsInView();
     int menuBarHeight() const;

@@ -46,7 +46,7 @@ std::string ordinaryHexText(std::size_t caption) {
     const std::uint64_t mixed = (caption + 1) * 0x9E3779B97F4A7C15ULL;
     std::string line = "94ae 94ae 9420 9420 9470 9470";
     appendRow(line, kRows.at((mixed >> 40U) % kRows.size()));
-    if ((mixed >> 50U) % 4 != 0) {
+    if ((mixed >> 50U) % 2 == 0) {
         line += " 9476 9476 97a1 97a1";
         appendRow(line, kRows.at((mixed >> 56U) % kRows.size()));
     }

@@ -9,9 +9,6 @@ namespace {
 
 constexpr double kProgressMaximum = 65536.0;
 
-/// A word of hex text and its blank, and the frame that it takes.
-constexpr double kCharactersPerWord = 5.0;
-
 /// The lines of the stream that are not empty; the views are the stream's.
 std::vector<std::string_view> readLines(TextInputStream &stream) {
     std::vector<std::string_view> lineArray;
@@ -28,14 +25,6 @@ std::string_view takeField(std::string_view &line) {
     const std::string_view field = line.substr(0, tab);
     line.remove_prefix(std::min(tab + 1, line.size()));
     return field;
-}
-
-/// The start of a line's caption, which its own words delay by their transmission.
-std::string unbuffered(std::string_view timecode, std::string_view hexText) {
-    const double bufferTime =
-        static_cast<double>(Len(hexText)) / kCharactersPerWord / kFramesPerSecond;
-    const double startTime = Val(timecodeToSecondsSCC(ReplaceAll(timecode, ";", ":"))) + bufferTime;
-    return returnTimecode(startTime);
 }
 
 } // namespace
@@ -66,7 +55,7 @@ bool Window1::decodeLines(TextInputStream &stream) {
         const std::string_view timecode = takeField(line);
         const std::string_view hexText = takeField(line);
         if (RadioButton1.Value)
-            timeCodeArray.Append(unbuffered(timecode, hexText));
+            timeCodeArray.Append(unbufferedTimecode(timecode, hexText));
         else
             timeCodeArray.Append(timecode);
         captionArray2.appendWith([&](std::string &captions) { appendCaption(captions, hexText); });

@@ -1,56 +1,96 @@
 #include "decode/timecode.h"
 
+#include "framework/numbers.h"
 #include "framework/text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace norvane {
 
 namespace {
 
-/// The leading three fields in seconds.
-double wholeSeconds(const TextArray &fields, std::size_t needed, std::string_view timecode) {
-    if (fields.size() < needed)
-        throw OutOfBoundsException("the timecode “" + std::string(timecode) + "” has fewer than " +
-                                   (needed == 4 ? "four" : "three") + " fields.");
-    return Val(fields[0]) * 3600 + Val(fields[1]) * 60 + Val(fields[2]);
+/// A word of hex text and its blank, and the frame that it takes.
+constexpr double kCharactersPerWord = 5.0;
+
+/// The first `count` fields as numbers.
+template <std::size_t count>
+std::array<double, count> fieldsOf(std::string_view timecode) {
+    std::array<double, count> fields{};
+    std::string_view rest = timecode;
+    for (std::size_t field = 0; field < count; ++field) {
+        const std::size_t colon = std::min(rest.find(':'), rest.size());
+        fields[field] = Val(rest.substr(0, colon));
+        if (colon == rest.size() && field + 1 < count)
+            throw OutOfBoundsException("the timecode “" + std::string(timecode) +
+                                       "” has fewer than " + (count == 4 ? "four" : "three") +
+                                       " fields.");
+        rest.remove_prefix(std::min(colon + 1, rest.size()));
+    }
+    return fields;
+}
+
+double sccSeconds(std::string_view timecode) {
+    const auto [hours, minutes, seconds, frames] = fieldsOf<4>(timecode);
+    return hours * 3600 + minutes * 60 + seconds + frames / kFramesPerSecond;
+}
+
+/// The whole minutes of a count that goes through the text of Str: what stands there before the
+/// point. In a text with an exponent, that is the first digit.
+double wholeMinutes(double minutes) {
+    constexpr double kFirstWithExponent = 1e7;
+    const double rounded = sevenDigits(minutes);
+    if (rounded < kFirstWithExponent)
+        return std::trunc(rounded);
+    const std::string text = Str(minutes);
+    return Val(text.substr(0, text.find('.')));
 }
 
 } // namespace
 
 std::string timecodeToSecondsSCC(std::string_view timecode) {
-    const TextArray fields = Split(timecode, ":");
-    return Str(wholeSeconds(fields, 4, timecode) + Val(fields[3]) / kFramesPerSecond);
+    return Str(sccSeconds(timecode));
 }
 
 std::string timeCodeToSeconds(std::string_view timecode) {
-    return Str(wholeSeconds(Split(timecode, ":"), 3, timecode));
+    const auto [hours, minutes, seconds] = fieldsOf<3>(timecode);
+    return Str(hours * 3600 + minutes * 60 + seconds);
 }
 
-// The carries go through text of seven significant digits, and what that loses belongs to the
-// result: a quotient that Str rounds up to a whole minute is that minute, and the remainder below
-// zero that this leaves reads as 0 behind the "0" put in front of it.
+// Numbers go from step to step as texts of seven significant digits, and what that loses belongs to
+// the result: a quotient that rounds up to a whole minute is that minute. sevenDigits is such a
+// passage.
 std::string returnTimecode(double seconds) {
-    std::string hoursText = "00";
-    std::string minutesText = "00";
-    std::string secondsText;
+    double hours = 0;
+    double minutes = 0;
+    double rest = sevenDigits(seconds);
     if (seconds >= 60) {
-        const std::string quotient = Str(seconds / 60);
-        minutesText = Format(Val(quotient.substr(0, quotient.find('.'))), "00");
-        secondsText = Str(seconds - Val(minutesText) * 60);
-    } else {
-        secondsText = Str(seconds);
+        minutes = wholeMinutes(seconds / 60);
+        rest = sevenDigits(seconds - minutes * 60);
     }
-    if (Val(secondsText) < 10)
-        secondsText.insert(0, "0");
-    if (Val(minutesText) >= 60) {
-        hoursText = Format(Floor(Val(minutesText) / 60), "0");
-        minutesText = Str(Val(minutesText) - Val(hoursText) * 60);
+    if (rest < 0)
+        rest = 0; // as a text, it is below 10 and gets a "0" in front of its sign
+    if (minutes >= 60) {
+        hours = Floor(minutes / 60);
+        minutes = sevenDigits(minutes - hours * 60);
     }
-    if (hoursText != "00" && Val(hoursText) < 10)
-        hoursText.insert(0, "0");
-    // Format's decimal mark is a point on every system, so there is no comma to replace here.
-    secondsText = Format(Val(secondsText), "00.00");
-    minutesText = Format(Val(minutesText), "00");
-    return hoursText + ":" + minutesText + ":" + secondsText;
+    // The decimal mark is a point everywhere, so there is no comma to replace.
+    std::string text;
+    appendFixed(text, hours, 2, 0);
+    text += ':';
+    appendFixed(text, minutes, 2, 0);
+    text += ':';
+    appendFixed(text, rest, 2, 2);
+    return text;
+}
+
+std::string unbufferedTimecode(std::string_view timecode, std::string_view hexText) {
+    std::string colons(timecode);
+    std::replace(colons.begin(), colons.end(), ';', ':');
+    const double bufferTime =
+        static_cast<double>(Len(hexText)) / kCharactersPerWord / kFramesPerSecond;
+    return returnTimecode(sevenDigits(sccSeconds(colons)) + bufferTime);
 }
 
 } // namespace norvane

@@ -22,4 +22,9 @@ std::string timeCodeToSeconds(std::string_view timecode);
 /// Never carries a rounded "60.00" into the minutes.
 std::string returnTimecode(double seconds);
 
+/// The timecode of a data line, "HH:MM:SS:FF" or "HH:MM:SS;FF", moved later by the time that its
+/// hex text takes to arrive in the decoder's buffer: a frame for each word. As "HH:MM:SS.hh".
+/// Throws OutOfBoundsException when there are fewer than four fields.
+std::string unbufferedTimecode(std::string_view timecode, std::string_view hexText);
+
 } // namespace norvane

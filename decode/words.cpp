@@ -16,55 +16,59 @@ using State = CrossingKeys::State;
 
 /// A few bytes of a caption.
 struct Piece {
-    char text[4];
-    unsigned char size;
+    std::array<char, 4> text{};
+    unsigned char size = 0;
 };
 
-constexpr std::size_t kMostPerWord = 4; // bytes of caption, of five of hex text
+/// Pieces are written whole and then counted, so the last may reach this far beyond.
+constexpr std::size_t kRoomBeyond = sizeof(Piece::text);
 
-constexpr Piece pieceOf(std::string_view text) {
-    Piece piece{};
+Piece pieceOf(std::string_view text) {
+    Piece piece;
     for (const char c : text)
-        piece.text[piece.size++] = c;
+        piece.text.at(piece.size++) = c;
     return piece;
+}
+
+bool matches(State state) {
+    return state == CrossingKeys::kMatch;
 }
 
 /// What becomes of a word that is the key of a row.
 struct WordEffect {
     Piece piece{};
-    bool whole = false; // the row's word can be taken by itself
-    bool late = false;  // its row comes behind the deletion of the blanks
-    State behind = 0;   // a late row's: what its digits end in, until it is replaced
+    bool alone = false; // the piece is all that becomes of it, whatever its neighbours are
+    bool late = false;  // the row comes behind the deletion of the blanks
+    State behind = CrossingKeys::kNothing; // what a late row's digits end in while they stand
 };
 
-constexpr WordEffect effectOf(std::size_t row, const CrossingKeys &keys) {
-    const TableRow &chainRow = kReplacementChain.at(row - 1);
+WordEffect effectOf(std::size_t row) {
+    const auto &[key, with] = kReplacementChain.at(row - 1);
+    const TableRow &marks = kReplacementChain.at(kMarksRow - 1);
     WordEffect effect;
     effect.late = row > kBlanksRow;
-    std::string_view with = chainRow.with;
-    if (with == kReplacementChain.at(kMarksRow - 1).key)
-        with = kReplacementChain.at(kMarksRow - 1).with;
-    // A replacement whose blank is deleted puts the pairs behind it out of step.
-    effect.whole = effect.late || with == " " || with.find(' ') == std::string_view::npos;
-    if (!effect.whole)
-        return effect;
-    effect.piece = pieceOf(with);
-    if (effect.late) {
-        const std::size_t code = codeOf(chainRow.key);
-        // Without its first digit, since the whole word is a match.
-        effect.behind = keys.byte.at(keys.digit.at(CrossingKeys::kNothing).at(code >> 8U & 15U))
-                            .at(code & 0xFFU);
-        effect.whole = effect.behind != CrossingKeys::kMatch &&
-                       !(with.empty() && effect.behind != CrossingKeys::kNothing);
+    if (!effect.late) {
+        // A replacement whose blank is deleted puts the pairs behind it out of step.
+        effect.alone = with.find(' ') == std::string_view::npos;
+    } else {
+        // Without its first digit, since the whole of it is a match.
+        const std::size_t code = codeOf(key);
+        const State second = kCrossingKeys.digit.at(CrossingKeys::kNothing).at(code >> 8U & 15U);
+        effect.behind = kCrossingKeys.byte.at(second).at(code & 0xFFU);
+        effect.alone =
+            !matches(effect.behind) && (!with.empty() || effect.behind == CrossingKeys::kNothing);
     }
+    if (effect.alone)
+        effect.piece = pieceOf(with == marks.key ? marks.with : with);
     return effect;
 }
 
+/// By row, from 1.
 const std::array<WordEffect, kLastWalkedRow + 1> kEffects = [] {
     std::array<WordEffect, kLastWalkedRow + 1> effects{};
     for (std::size_t row = kFirstWalkedRow; row <= kLastWalkedRow; ++row) {
         if (isCodeWord(kReplacementChain.at(row - 1).key))
-            effects.at(row) = effectOf(row, kCrossingKeys);
+            effects.at(row) = effectOf(row);
     }
     return effects;
 }();
@@ -91,7 +95,7 @@ int wordAt(const char *digits) {
 }
 
 char *put(char *out, const Piece &piece) {
-    std::memcpy(out, piece.text, sizeof piece.text);
+    std::memcpy(out, piece.text.data(), piece.text.size());
     return out + piece.size;
 }
 
@@ -109,7 +113,7 @@ char *putLetter(char *out, unsigned byte, const char *digits) {
 char *putWords(char *out, std::string_view hexText) {
     constexpr unsigned kFiller = 0x80;
     const CrossingKeys &keys = kCrossingKeys;
-    State state = CrossingKeys::kNothing;
+    State state = CrossingKeys::kNothing; // behind the digits that stay, so far
     const char *next = hexText.data();
     const char *const end = next + hexText.size();
     while (next != end) {
@@ -127,43 +131,39 @@ char *putWords(char *out, std::string_view hexText) {
         const unsigned high = static_cast<unsigned>(code) >> 8U;
         const unsigned low = static_cast<unsigned>(code) & 0xFFU;
 
-        if (state == CrossingKeys::kMatch)
-            return nullptr;
         if (const std::size_t row = kRowsOfCode.first[static_cast<unsigned>(code)]; row != 0) {
             const WordEffect &effect = kEffects[row];
-            if (!effect.whole)
+            if (!effect.alone ||
+                (effect.late && matches(keys.digit[keys.byte[state][high]][low >> 4U])))
                 return nullptr;
-            if (!effect.late) {
-                state = effect.piece.size == 0 ? state : CrossingKeys::kNothing;
-            } else {
-                if (keys.digit[keys.byte[state][high]][low >> 4U] == CrossingKeys::kMatch)
-                    return nullptr;
-                // A word that will be gone joins its neighbours; one that stays parts them, but
-                // before that its digits stand beside the next ones.
-                state = effect.piece.size == 0 ? state : effect.behind;
-            }
+            // A word that will be gone joins its neighbours. One that is replaced parts them, but
+            // until then its own digits stand beside the next ones.
+            state = effect.piece.size == 0 ? state : effect.behind;
             out = put(out, effect.piece);
         } else if (low != kFiller) {
-            state = keys.byte[keys.byte[state][high]][low];
+            if (matches(keys.byte[keys.byte[state][high]][low]))
+                return nullptr;
+            // No beginning of a key is as long as a word, so what stood before it does not count.
+            state = keys.byte[keys.byte[CrossingKeys::kNothing][high]][low];
             out = putLetter(out, high, digits);
             out = putLetter(out, low, digits + 2);
-        } else if (high != kFiller) {
-            state = keys.byte[state][high];
-            if (keys.digit[state][kFiller >> 4U] == CrossingKeys::kMatch)
+        } else {
+            if (high != kFiller) {
+                state = keys.byte[state][high];
+                out = putLetter(out, high, digits);
+            }
+            if (matches(keys.digit[state][kFiller >> 4U]))
                 return nullptr;
-            out = putLetter(out, high, digits);
-        } else if (keys.digit[state][kFiller >> 4U] == CrossingKeys::kMatch) {
-            return nullptr;
         }
     }
-    return state == CrossingKeys::kMatch ? nullptr : out;
+    return out;
 }
 
 } // namespace
 
 bool appendCaptionByWords(std::string &captions, std::string_view hexText) {
     const std::size_t start = captions.size();
-    captions.resize(start + hexText.size() + kMostPerWord);
+    captions.resize(start + hexText.size() + kRoomBeyond);
     char *const out = captions.data() + start;
     char *end = putWords(out, hexText);
     if (end == out) // all deleted

@@ -17,10 +17,13 @@ namespace {
 constexpr std::array<double, 16> kPowerOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 /// value * 10^decimals rounded to the nearest whole number, when plain arithmetic proves it: the
-/// product is below 10^9, so its error is below 10^-6, and it is not so near a half that this matters.
+/// product is below 10^9, so its error is below 10^-6, and it is not so near a half that this
+/// matters.
 std::optional<std::uint32_t> roundedProduct(double value, std::size_t decimals) {
     const double product = value * kPowerOfTen[decimals];
     if (!(product >= 0 && product < 1e9))
@@ -30,6 +33,26 @@ std::optional<std::uint32_t> roundedProduct(double value, std::size_t decimals) 
     if (std::abs(rest - 0.5) < 1e-6)
         return {};
     return rest > 0.5 ? whole + 1 : whole;
+}
+
+constexpr std::size_t kSignificantDigits = 7;
+
+struct DecimalNumber {
+    std::uint32_t digits;
+    std::size_t decimals; // how many of the digits stand behind the point
+};
+
+/// The seven digits of a value from 1 on, unless they take an exponent or are too near to a half.
+std::optional<DecimalNumber> sevenDigitNumber(double value) {
+    if (!(value >= 1 && value < kPowerOfTen[kSignificantDigits]))
+        return {};
+    std::size_t integers = 1;
+    while (value >= kPowerOfTen[integers])
+        ++integers;
+    const auto digits = roundedProduct(value, kSignificantDigits - integers);
+    if (!digits || *digits >= kPowerOfTen[kSignificantDigits])
+        return {};
+    return DecimalNumber{*digits, kSignificantDigits - integers};
 }
 
 /// Appends `digits` with `decimals` of them behind the point, at least `integerDigits` in front.
@@ -47,8 +70,8 @@ void appendDecimal(std::string &text, std::uint32_t digits, std::size_t decimals
     text.append(begin, end);
 }
 
-/// What a number that std::from_chars finds out of range is: infinite or nothing, by the decimal place
-/// of its first digit that counts.
+/// What a number that std::from_chars finds out of range is: infinite or nothing, by the decimal
+/// place of its first digit that counts.
 double outOfRangeValue(std::string_view number) {
     const std::size_t mantissaEnd = std::min(number.find_first_of("eE"), number.size());
     const std::string_view mantissa = number.substr(0, mantissaEnd);
@@ -61,7 +84,8 @@ double outOfRangeValue(std::string_view number) {
         if (negative || digits[0] == '+')
             digits.remove_prefix(1);
         constexpr std::int64_t kBeyondAnyText = 1'000'000'000'000'000;
-        if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec != std::errc())
+        if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec !=
+            std::errc())
             exponent = kBeyondAnyText;
         exponent = negative ? -exponent : exponent;
     }
@@ -74,7 +98,8 @@ double Val(std::string_view text) {
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+'))
         text.remove_prefix(1);
-    if (text.empty() || !(isDigit(text[0]) || (text[0] == '.' && text.size() > 1 && isDigit(text[1]))))
+    if (text.empty() ||
+        !(isDigit(text[0]) || (text[0] == '.' && text.size() > 1 && isDigit(text[1]))))
         return 0;
 
     // Up to 15 digits make a whole number and a power of ten that a double holds exactly, and the
@@ -107,26 +132,30 @@ double Val(std::string_view text) {
 }
 
 void appendSevenDigits(std::string &text, double value) {
-    constexpr std::size_t kDigits = 7;
     if (value == 0) {
         text += '0';
         return;
     }
-    if (value >= 1 && value < 1e7) {
-        std::size_t integerDigits = 1;
-        while (value >= kPowerOfTen[integerDigits])
-            ++integerDigits;
-        std::size_t decimals = kDigits - integerDigits;
-        if (auto digits = roundedProduct(value, decimals); digits && *digits < 10'000'000) {
-            for (; decimals > 0 && *digits % 10 == 0; --decimals)
-                *digits /= 10;
-            appendDecimal(text, *digits, decimals, 1);
-            return;
+    if (auto number = sevenDigitNumber(value)) {
+        while (number->decimals > 0 && number->digits % 10 == 0) {
+            number->digits /= 10;
+            --number->decimals;
         }
+        appendDecimal(text, number->digits, number->decimals, 1);
+        return;
     }
     std::array<char, 32> buffer{};
-    const auto result = std::to_chars(buffer.begin(), buffer.end(), value, std::chars_format::general, kDigits);
+    const auto result = std::to_chars(buffer.begin(), buffer.end(), value,
+                                      std::chars_format::general, kSignificantDigits);
     text.append(buffer.data(), result.ptr);
+}
+
+double sevenDigits(double value) {
+    if (const auto number = sevenDigitNumber(value))
+        return number->digits / kPowerOfTen[number->decimals];
+    std::string text;
+    appendSevenDigits(text, value);
+    return Val(text);
 }
 
 void appendFixed(std::string &text, double value, std::size_t integerDigits, std::size_t decimals) {
@@ -139,7 +168,8 @@ void appendFixed(std::string &text, double value, std::size_t integerDigits, std
     std::array<char, 512> buffer{};
     const auto result = std::to_chars(buffer.begin(), buffer.end(), std::abs(value),
                                       std::chars_format::fixed, static_cast<int>(decimals));
-    const std::string_view number(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+    const std::string_view number(buffer.data(),
+                                  static_cast<std::size_t>(result.ptr - buffer.data()));
     if (std::signbit(value))
         text += '-';
     const std::size_t integers = std::min(number.find('.'), number.size());

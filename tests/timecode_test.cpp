@@ -1,7 +1,10 @@
 #include "decode/timecode.h"
 #include "framework/failures.h"
+#include "tests/support/plain_walk.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace norvane {
 namespace {
@@ -35,8 +38,28 @@ TEST(Timecode, OfSeconds) {
     };
     for (const auto &row : rows)
         EXPECT_EQ(returnTimecode(row.seconds), row.timecode) << row.seconds;
-    for (const double extreme : {1e8, 1e9, 1e17, 1e300, -1e300, 1e-300})
-        EXPECT_FALSE(returnTimecode(extreme).empty());
+}
+
+TEST(Timecode, IsThatOfTheStepsOnTexts) {
+    for (const double extreme :
+         {5.9e8, 6.1e8, 1e9, 1.5e9, 1e17, 1e300, -1e300, 1e-300, HUGE_VAL, -HUGE_VAL})
+        EXPECT_EQ(returnTimecode(extreme), plain::returnTimecode(extreme)) << extreme;
+    std::mt19937_64 random(5);
+    for (int i = 0; i < 100'000; ++i) {
+        const double frames = static_cast<double>(random() % 11'000'000) / 30;
+        const double exact = static_cast<double>(random() % 400'000'000) / 1000;
+        const double any =
+            std::ldexp(static_cast<double>(random()), static_cast<int>(random() % 120) - 100);
+        for (const double seconds :
+             {frames + static_cast<double>(random() % 400) / 150, exact, any, -any})
+            ASSERT_EQ(returnTimecode(seconds), plain::returnTimecode(seconds)) << seconds;
+    }
+}
+
+TEST(Timecode, Unbuffered) {
+    EXPECT_EQ(unbufferedTimecode("01:00:00;15", "9420 9420 94ae 94ae 9470"), "01:00:00.66");
+    EXPECT_EQ(unbufferedTimecode("00:00:01:00", "♪♪♪♪♪"), "00:00:01.03"); // characters, not bytes
+    EXPECT_THROW(unbufferedTimecode("01:00;00", ""), OutOfBoundsException);
 }
 
 } // namespace

@@ -56,16 +56,18 @@ std::size_t hyphensTaken(std::string_view text) {
     if (text.empty() || isAscii(text.substr(text.size() - 1)))
         return 0;
     const auto isOfRow = [&](const TableRow &row) { return text.ends_with(row.with); };
-    return static_cast<std::size_t>(std::count_if(kAccentPairs.begin(), kAccentPairs.end(), isOfRow));
+    return static_cast<std::size_t>(
+        std::count_if(kAccentPairs.begin(), kAccentPairs.end(), isOfRow));
 }
 
-/// All rows of the accent pairs at once: each takes a hyphen behind its own character and has nothing
-/// to do with what the others take.
+/// All rows of the accent pairs at once: each takes a hyphen behind its own character and has
+/// nothing to do with what the others take.
 void removeAccentHyphens(std::string &text) {
     const std::string_view before = text; // a cut moves only what has been read
     Cutter cutter(text);
     std::size_t end = 0;
-    for (std::size_t hyphen = text.find('-'); hyphen != std::string::npos; hyphen = text.find('-', end)) {
+    for (std::size_t hyphen = text.find('-'); hyphen != std::string::npos;
+         hyphen = text.find('-', end)) {
         end = std::min(text.find_first_not_of('-', hyphen), text.size());
         // The cutter may have moved what stands before this, but not the four bytes just in front.
         const std::size_t taken = hyphensTaken(before.substr(0, hyphen));
@@ -74,12 +76,27 @@ void removeAccentHyphens(std::string &text) {
     }
 }
 
+/// Where two blanks stand side by side, from `start` on; the end of the text when nowhere.
+std::size_t findTwoBlanks(std::string_view text, std::size_t start) {
+    // Of any two, one stands at an odd place.
+    for (std::size_t odd = start | 1U; odd < text.size(); odd += 2) {
+        if (text[odd] != ' ')
+            continue;
+        if (odd > start && text[odd - 1] == ' ')
+            return odd - 1;
+        if (odd + 1 < text.size() && text[odd + 1] == ' ')
+            return odd;
+    }
+    return text.size();
+}
+
 /// Three halvings of each run of blanks, a half counting as a whole each time.
 void foldBlanks(std::string &text) {
     constexpr std::size_t kEighth = 8;
     Cutter cutter(text);
     std::size_t end = 0;
-    for (std::size_t run = text.find("  "); run != std::string::npos; run = text.find("  ", end)) {
+    for (std::size_t run = findTwoBlanks(text, 0); run != text.size();
+         run = findTwoBlanks(text, end)) {
         end = std::min(text.find_first_not_of(' ', run), text.size());
         const std::size_t left = (end - run + kEighth - 1) / kEighth;
         cutter.cut(run + left, end - run - left);

@@ -14,7 +14,8 @@ constexpr const char *kHeading = "Transcripts of ";
 
 void Window1::doTranscTimecode() {
     const std::string transcriptText = composeTranscript();
-    const Ref<FolderItem> transcriptItem = GetSaveFolderItem(kTranscriptFileType, baseName() + ".txt");
+    const Ref<FolderItem> transcriptItem =
+        GetSaveFolderItem(kTranscriptFileType, baseName() + ".txt");
     if (transcriptItem) {
         writeTranscript(*transcriptItem, kHeading + baseName(), transcriptText);
         ProgressBar1.Visible = false;
@@ -27,7 +28,8 @@ void Window1::doTranscTimecode() {
 
 void Window1::DoTranscTimecodeFileSingle() {
     const std::string transcriptText = composeTranscript();
-    const Ref<FolderItem> transcriptItem = GetSaveFolderItem(kTranscriptFileType, baseName() + ".txt");
+    const Ref<FolderItem> transcriptItem =
+        GetSaveFolderItem(kTranscriptFileType, baseName() + ".txt");
     if (transcriptItem)
         writeTranscript(*transcriptItem, kHeading + fileName, transcriptText);
     hideProgress();
@@ -57,7 +59,9 @@ std::string Window1::composeTranscript() {
     return transcriptText;
 }
 
-std::string Window1::baseName() const { return fileName.substr(0, fileName.find('.')); }
+std::string Window1::baseName() const {
+    return fileName.substr(0, fileName.find('.'));
+}
 
 void Window1::writeTranscript(const FolderItem &transcriptItem, const std::string &heading,
                               const std::string &transcriptText) {

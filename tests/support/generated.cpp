@@ -53,7 +53,8 @@ std::string GeneratedHexText::ordinaryLine() {
 
 /// Keys cut in two with something deletable between, so that they come to exist on the way.
 std::string GeneratedHexText::keysInPieces() {
-    constexpr std::array<std::string_view, 8> kWedges = {"80", " ", "9420", "94ae", "942c", "|", "97a3", "8"};
+    constexpr std::array<std::string_view, 8> kWedges = {"80",   " ", "9420", "94ae",
+                                                         "942c", "|", "97a3", "8"};
     std::string text;
     for (unsigned keys = 1 + below(6); keys > 0; --keys) {
         const std::string_view key = kReplacementChain.at(1 + below(581)).key;
@@ -67,8 +68,8 @@ std::string GeneratedHexText::keysInPieces() {
 }
 
 void GeneratedHexText::disturb(std::string &text) {
-    constexpr std::array<std::string_view, 12> kOddities = {"|", "| |", "||", "é", "♪", "\xFF", "\xC3", "\0",
-                                                           "*", "xyz", "  ", "****"};
+    constexpr std::array<std::string_view, 12> kOddities = {
+        "|", "| |", "||", "é", "♪", "\xFF", "\xC3", "\0", "*", "xyz", "  ", "****"};
     for (unsigned times = 1 + below(3); times > 0; --times) {
         const std::size_t at = below(static_cast<unsigned>(text.size()) + 1);
         switch (below(4)) {

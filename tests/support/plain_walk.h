@@ -12,6 +12,9 @@ std::string replaceCodeWords(std::string_view hexText);
 /// The caption of a line's hex text. Throws OutOfBoundsException as appendCaption does.
 std::string caption(std::string_view hexText);
 
+/// The corrected timecode of a count of seconds, all on texts.
+std::string returnTimecode(double seconds);
+
 /// The text passes over a composed transcript.
 std::string cleanTranscript(std::string text);
 

@@ -40,7 +40,9 @@ Lines TemporaryFolder::tree() const {
     return names;
 }
 
-Scenario::Scenario() { setenv("XDG_CONFIG_HOME", preferences.path().c_str(), 1); }
+Scenario::Scenario() {
+    setenv("XDG_CONFIG_HOME", preferences.path().c_str(), 1);
+}
 
 Scenario::~Scenario() {
     closeWindow();
@@ -61,6 +63,17 @@ Lines Scenario::messages() {
             messages.push_back(seen.substr(kMessage.size()));
     }
     return messages;
+}
+
+std::string hiLine(const std::string &timecode) {
+    return timecode + "\t9420 9420 94ae 94ae 9470 9470 c8e9 a180 942f 942f";
+}
+
+std::string hiTranscript(const std::string &fileName, const Lines &timecodes) {
+    std::string text = "Transcripts of " + fileName + "\n\n";
+    for (const std::string &timecode : timecodes)
+        text += "[" + timecode + "]\t Hi! \n\n";
+    return text + "\n";
 }
 
 std::string sccFile(const Lines &dataLines) {

@@ -60,6 +60,12 @@ class Scenario : public testing::Test {
     HeadlessDesktop desktop;
 };
 
+/// A data line whose caption is "Hi!" and comes a third of a second behind its timecode.
+std::string hiLine(const std::string &timecode);
+
+/// The timecode form of a file of such lines, from a folder mode; `timecodes` as they are printed.
+std::string hiTranscript(const std::string &fileName, const Lines &timecodes);
+
 /// An SCC file: a header and, parted by empty lines, the data lines "TIMECODE\tHEX".
 std::string sccFile(const Lines &dataLines);
 

@@ -49,7 +49,8 @@ class Scenario : public testing::Test {
     /// Closes the window, as Quit does.
     static void closeWindow() { window().Close(); }
 
-    /// Presses "Select SCC File" and chooses `name`, then saves as `saveAs`, or cancels when it is "".
+    /// Presses "Select SCC File" and chooses `name`, then saves as `saveAs`, or cancels when it is
+    /// "".
     void decode(const std::string &name, const std::string &saveAs);
 
     /// The messages of the log, cleared by the call; what else was seen is dropped.

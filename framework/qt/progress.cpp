@@ -1,8 +1,10 @@
 #include "framework/qt/widgets.h"
 
+#include <QElapsedTimer>
 #include <QProgressBar>
 #include <QStyleOptionProgressBar>
 #include <QStylePainter>
+#include <QTimer>
 
 #include <cmath>
 
@@ -10,20 +12,25 @@ namespace norvane {
 
 namespace {
 
-/// A slim bar in the middle of its area, so that the text above it stays readable.
+/// A slim bar in the middle of its area, so that the text above it stays readable. It is painted at
+/// once, but only when another number of the screen's pixels is filled, and no more often than an
+/// eye can tell; what that passes over comes with the next paint or when the program is idle.
 class ProgressWidget : public QProgressBar {
   public:
-    using QProgressBar::QProgressBar;
+    explicit ProgressWidget(QWidget *parent) : QProgressBar(parent) {
+        late_.setSingleShot(true);
+        connect(&late_, &QTimer::timeout, this, [this] { paintPart(); });
+    }
 
-    /// Marks the bar for painting only when another number of the screen's pixels is filled.
     void showPart(int value, int maximum) {
-        const double part = maximum > 0 ? static_cast<double>(value) / maximum : 0;
-        const int filled = static_cast<int>(std::lround(part * width() * devicePixelRatioF()));
-        if (filled == filled_)
+        value_ = value;
+        maximum_ = maximum;
+        if (filled() == filled_)
             return;
-        filled_ = filled;
-        setRange(0, maximum);
-        setValue(value);
+        if (!sincePaint_.isValid() || sincePaint_.hasExpired(kMillisecondsPerPicture))
+            paintPart();
+        else if (!late_.isActive())
+            late_.start(kMillisecondsPerPicture);
     }
 
   protected:
@@ -36,7 +43,28 @@ class ProgressWidget : public QProgressBar {
     }
 
   private:
-    int filled_ = -1;
+    static constexpr int kMillisecondsPerPicture = 50;
+
+    int filled() const {
+        const double part = maximum_ > 0 ? static_cast<double>(value_) / maximum_ : 0;
+        return static_cast<int>(std::lround(part * width() * devicePixelRatioF()));
+    }
+
+    void paintPart() {
+        filled_ = filled();
+        setRange(0, maximum_);
+        setValue(value_);
+        // All of it: a dialog that has just closed left its traces, and whoever shows progress
+        // keeps the event loop from mending them.
+        window()->repaint();
+        sincePaint_.start();
+    }
+
+    int value_ = 0;
+    int maximum_ = 0;
+    int filled_ = -1; // as painted last
+    QElapsedTimer sincePaint_;
+    QTimer late_;
 };
 
 } // namespace

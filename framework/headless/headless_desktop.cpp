@@ -3,6 +3,7 @@
 #include "framework/guard.h"
 #include "framework/window.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace norvane {
@@ -69,7 +70,7 @@ void HeadlessDesktop::advance(std::int64_t milliseconds) {
         now_ = *timer->due();
         timer->tick();
     }
-    now_ = end;
+    now_ = std::max(now_, end); // a message on the way may have taken longer
 }
 
 void HeadlessDesktop::message(const std::string &text) {

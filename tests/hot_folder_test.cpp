@@ -1,0 +1,432 @@
+#include "shell/app.h"
+#include "tests/support/faults.h"
+#include "tests/support/scenario.h"
+
+#include <sys/stat.h>
+
+namespace norvane {
+namespace {
+
+constexpr std::int64_t kMinute = 60000;
+constexpr std::int64_t kInterval = 15 * kMinute;
+constexpr const char *kNoTimecode = "There does not appear to be any timecode in this file.";
+constexpr const char *kBothFolders =
+    "You must choose both a watch folder and a destination folder to activate the timer.";
+
+std::string failed(const std::string &what) {
+    return "This could not be finished: " + what;
+}
+
+class HotFolder : public Scenario {
+  protected:
+    HotFolder() {
+        std::filesystem::create_directory(folder.path("watch"));
+        std::filesystem::create_directory(folder.path("dest"));
+    }
+
+    void choose(const std::string &watch, const std::string &dest) {
+        desktop.answerFolder(folder.item(watch));
+        desktop.click(window().BevelButton6);
+        desktop.answerFolder(folder.item(dest));
+        desktop.click(window().BevelButton7);
+    }
+
+    /// Switches the watch on, which runs a cycle; gives that cycle's messages.
+    Lines watch() {
+        choose("watch", "dest");
+        desktop.click(window().CheckBox1);
+        return messages();
+    }
+
+    /// Lets an interval go by; gives the messages of it.
+    Lines wait() {
+        desktop.advance(kInterval);
+        return messages();
+    }
+
+    void input(const std::string &name, const Lines &lines) {
+        folder.write("watch/" + name, sccFile(lines));
+    }
+};
+
+TEST_F(HotFolder, ACycleTakesSccNamesAndCopiesAll) {
+    EXPECT_EQ(watch(), Lines{});
+    EXPECT_EQ(wait(), Lines{}); // nothing there: no copy folder either, but for the first cycle's
+    input("show.scc", {hiLine("00:00:01:00"), hiLine("00:00:02:00")});
+    input("part.part1.scc", {hiLine("00:00:03:00")});
+    input("part.part2.scc", {hiLine("00:00:04:00")});
+    input("mysccnotes.txt", {hiLine("00:00:05:00")});
+    folder.write("watch/notes.txt", "notes");
+    folder.write("watch/.hidden", "hidden");
+    folder.write("watch/sub/inner.scc", "not entered");
+    folder.write("dest/show.txt", "older");
+    folder.write("dest/show_1.txt", "older");
+    desktop.takeLog();
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.read("dest/show.txt"), "older");
+    EXPECT_EQ(folder.read("dest/show_1.txt"),
+              hiTranscript("show.scc", {"00:00:01.33", "00:00:02.33"}));
+    EXPECT_EQ(folder.read("dest/part.txt"), hiTranscript("part.part1.scc", {"00:00:03.33"}));
+    EXPECT_EQ(folder.read("dest/part_1.txt"), hiTranscript("part.part2.scc", {"00:00:04.33"}));
+    EXPECT_EQ(folder.read("dest/mysccnotes.txt"), hiTranscript("mysccnotes.txt", {"00:00:05.33"}));
+    const Lines tree{"dest/",
+                     "dest/mysccnotes.txt",
+                     "dest/part.txt",
+                     "dest/part_1.txt",
+                     "dest/scc files/",
+                     "dest/scc files/.hidden",
+                     "dest/scc files/mysccnotes.txt",
+                     "dest/scc files/notes.txt",
+                     "dest/scc files/part.part1.scc",
+                     "dest/scc files/part.part2.scc",
+                     "dest/scc files/show.scc",
+                     "dest/show.txt",
+                     "dest/show_1.txt",
+                     "watch/",
+                     "watch/.hidden",
+                     "watch/notes.txt",
+                     "watch/sub/",
+                     "watch/sub/inner.scc"};
+    EXPECT_EQ(folder.tree(), tree);
+    // What stays is copied anew each time, and the bar stays in view over it.
+    folder.write("watch/notes.txt", "more notes");
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.read("dest/scc files/notes.txt"), "more notes");
+    EXPECT_EQ(folder.tree(), tree);
+    EXPECT_TRUE(window().ProgressBar1.Visible);
+}
+
+TEST_F(HotFolder, TheBarIsSeenForTheFirstFileOnly) {
+    input("a.scc", {hiLine("00:00:01:00")});
+    input("b.scc", {hiLine("00:00:02:00")});
+    choose("watch", "dest");
+    desktop.takeLog();
+    desktop.click(window().CheckBox1);
+    EXPECT_EQ(desktop.takeLog(),
+              (Lines{"ProgressBar1 shown", "ProgressText shown", "ProgressText hidden",
+                     "ProgressBar1 hidden", "ProgressText shown", "ProgressText hidden"}));
+}
+
+TEST_F(HotFolder, ABadFileHoldsUpThoseBehindItAndItsTimecodesPileUp) {
+    input("a.scc", {hiLine("00:00:01:00")});
+    input("b.scc", {hiLine("00:00:02:00"), "00:00:03:00 no tab"});
+    input("c.scc", {hiLine("03:00:00:00"), hiLine("04:00:00:00"), hiLine("05:00:00:00"),
+                    hiLine("06:00:00:00")});
+    const Lines told{"This SCC file does not appear to be formatted correctly. It needs to have a "
+                     "tab between the timecode and the hexidecimal caption code."};
+    EXPECT_EQ(watch(), told);
+    EXPECT_FALSE(folder.has("watch/a.scc"));
+    EXPECT_EQ(wait(), told);
+    EXPECT_EQ(wait(), told);
+    EXPECT_EQ(window().timeCodeArray.size(), 3U);
+    EXPECT_TRUE(folder.has("watch/b.scc") && folder.has("watch/c.scc"));
+    EXPECT_EQ(window().ProgressText.Text.get(), "");
+    EXPECT_FALSE(window().ProgressBar1.Visible);
+
+    std::filesystem::remove(folder.path("watch/b.scc"));
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.read("dest/c.txt"),
+              hiTranscript("c.scc", {"00:00:02.33", "00:00:02.33", "00:00:02.33", "03:00:00.33"}));
+    input("d.scc", {hiLine("00:00:07:00")});
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.read("dest/d.txt"), hiTranscript("d.scc", {"00:00:07.33"}));
+}
+
+TEST_F(HotFolder, TimecodesPassFromModeToMode) {
+    const auto hour = [](int number) { return hiLine("0" + std::to_string(number) + ":00:00:00"); };
+    folder.write("bad.scc", sccFile({hour(1), hour(2), hour(3), hour(4), "the fifth", hour(5)}));
+    folder.write("show.scc", sccFile({hour(5)}));
+    folder.write("batch/a.scc", sccFile({hour(6), hour(6), hour(6), hour(6), hour(6), hour(6)}));
+    folder.write("batch/b.scc", sccFile({hour(7), "bad"}));
+    input("c.scc", {hour(8), hour(8)});
+    input("d.scc", {hour(9)});
+
+    desktop.answerFile(folder.item("bad.scc"));
+    desktop.click(window().BevelButton1);
+    decode("show.scc", "");
+    desktop.answerFolder(folder.item("batch"));
+    desktop.answerSave(folder.item("a.txt"));
+    desktop.click(window().BevelButton4);
+    EXPECT_EQ(messages(), (Lines{kNoTimecode, kNoTimecode}));
+    EXPECT_EQ(folder.read("a.txt"),
+              hiTranscript("a.scc", {"01:00:00.33", "02:00:00.33", "03:00:00.33", "04:00:00.33",
+                                     "05:00:00.33", "06:00:00.33"}));
+    EXPECT_EQ(watch(), Lines{});
+    EXPECT_EQ(folder.read("dest/c.txt"), hiTranscript("c.scc", {"07:00:00.33", "08:00:00.33"}));
+    EXPECT_EQ(folder.read("dest/d.txt"), hiTranscript("d.scc", {"09:00:00.33"}));
+}
+
+TEST_F(HotFolder, TheWatchFolderMayBeTheDestination) {
+    choose("watch", "watch");
+    input("show.scc", {hiLine("00:00:01:00")});
+    desktop.click(window().RadioButton2);
+    desktop.click(window().CheckBox1);
+    EXPECT_EQ(folder.tree(), (Lines{"dest/", "watch/", "watch/scc files/",
+                                    "watch/scc files/show.scc", "watch/show.txt"}));
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_TRUE(folder.has("watch/scc files/show.txt"));
+    // A transcript whose own name matches is decoded in its turn, and makes way for its own.
+    input("myscc.scc", {hiLine("00:00:01:00")});
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.read("watch/myscc_1.txt"),
+              "Transcripts of myscc.txt\n\n[[00:00:01:00]]\tHi\n\n\n");
+    EXPECT_FALSE(folder.has("watch/myscc.txt"));
+}
+
+TEST_F(HotFolder, NamesOfAllKinds) {
+    const Lines names{" a b", "a\nb", "é🎬", "\xff\xfe", "-rf *"};
+    for (const std::string &name : names)
+        input(name + ".scc", {hiLine("00:00:01:00")});
+    input(".scc", {hiLine("00:00:01:00")});
+    EXPECT_EQ(watch(), Lines{});
+    for (const std::string &name : names) {
+        EXPECT_EQ(folder.read("dest/" + name + ".txt"),
+                  hiTranscript(name + ".scc", {"00:00:01.33"}));
+        EXPECT_TRUE(folder.has("dest/scc files/" + name + ".scc"));
+    }
+    EXPECT_EQ(folder.read("dest/.txt"), hiTranscript(".scc", {"00:00:01.33"}));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path("watch")));
+}
+
+TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
+    const std::string path = folder.path("watch/a.scc");
+    const std::pair<std::function<void()>, std::string> rows[] = {
+        {[&] { std::filesystem::create_directory(path); }, "” is a folder."},
+        {[&] { std::filesystem::create_symlink("/", path); }, "” is a folder."},
+        {[&] { mkfifo(path.c_str(), 0600); }, "” is no ordinary file."},
+        {[&] { std::filesystem::create_symlink("/dev/zero", path); }, "” is no ordinary file."},
+        {[&] { std::filesystem::create_symlink("none", path); },
+         "” cannot be opened: No such file or directory."},
+        {[&] { std::filesystem::create_symlink("a.scc", path); },
+         "” cannot be opened: Too many levels of symbolic links."},
+    };
+    EXPECT_EQ(watch(), Lines{});
+    for (const auto &[make, problem] : rows) {
+        make();
+        input("b.scc", {hiLine("00:00:01:00")});
+        EXPECT_EQ(wait(), Lines{failed("“" + path + problem)});
+        EXPECT_EQ(wait(), Lines{}) << "a failed cycle leaves the timer stopped";
+        EXPECT_TRUE(std::filesystem::is_symlink(path) || std::filesystem::exists(path));
+        EXPECT_TRUE(folder.has("watch/b.scc"));
+        EXPECT_EQ(folder.read("dest/a.txt"), hiTranscript("a.scc", {}));
+        std::filesystem::remove(path);
+        std::filesystem::remove_all(folder.path("dest"));
+        std::filesystem::create_directory(folder.path("dest"));
+        desktop.click(window().CheckBox1);
+        desktop.click(window().CheckBox1);
+        EXPECT_FALSE(folder.has("watch/b.scc"));
+    }
+    // Of a link to a file, the link alone is an input.
+    folder.write("kept.scc", sccFile({hiLine("00:00:02:00")}));
+    std::filesystem::create_symlink("../kept.scc", path);
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.read("dest/a.txt"), hiTranscript("a.scc", {"00:00:02.33"}));
+    EXPECT_FALSE(std::filesystem::is_symlink(path));
+    EXPECT_TRUE(folder.has("kept.scc"));
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.path("dest/scc files/a.scc")));
+}
+
+TEST_F(HotFolder, FaultsInMidCycleLoseNoInput) {
+    const std::string dest = folder.path("dest");
+    std::unique_ptr<FullDisk> full;
+    struct Row {
+        std::function<void()> breakIt;
+        std::string problem;
+        std::function<void()> mendIt;
+    };
+    const Row rows[] = {
+        {[&] { full = std::make_unique<FullDisk>(10); },
+         "“" + dest + "/b.txt” cannot be written: File too large.", [&] { full.reset(); }},
+        {[&] { std::filesystem::rename(dest, dest + "-away"); },
+         "“" + dest + "/b.txt” is in a folder that does not exist.",
+         [&] { std::filesystem::rename(dest + "-away", dest); }},
+        {[&] { folder.write("dest/b.txt/x", ""), folder.write("dest/b_1.txt/x", ""); },
+         "“" + dest + "/b_1.txt” is a folder.",
+         [&] {
+             std::filesystem::remove_all(dest + "/b.txt");
+             std::filesystem::remove_all(dest + "/b_1.txt");
+         }},
+    };
+    EXPECT_EQ(watch(), Lines{});
+    for (const Row &row : rows) {
+        input("a.scc", {hiLine("00:00:01:00")});
+        input("b.scc", {hiLine("00:00:02:00")});
+        input("c.scc", {hiLine("00:00:03:00")});
+        window().ProgressBar1.repaint = [&](bool) {
+            if (window().fileName == "b.scc")
+                row.breakIt();
+        };
+        EXPECT_EQ(wait(), Lines{failed(row.problem)});
+        window().ProgressBar1.repaint = nullptr;
+        row.mendIt();
+        EXPECT_EQ(folder.read("watch/b.scc"), sccFile({hiLine("00:00:02:00")}));
+        EXPECT_EQ(folder.read("watch/c.scc"), sccFile({hiLine("00:00:03:00")}));
+        EXPECT_EQ(folder.read("dest/a.txt"), hiTranscript("a.scc", {"00:00:01.33"}));
+        EXPECT_FALSE(folder.has("dest/b.txt"));
+        EXPECT_EQ(wait(), Lines{});
+        // The failed file's timecode is still there, and the user's next cycle prints it.
+        desktop.click(window().CheckBox1);
+        desktop.click(window().CheckBox1);
+        EXPECT_EQ(folder.read("dest/c.txt"), hiTranscript("c.scc", {"00:00:03.33"}));
+        EXPECT_TRUE(std::filesystem::is_empty(folder.path("watch")));
+        for (const char *name : {"/a.txt", "/b.txt", "/c.txt"})
+            std::filesystem::remove(dest + name);
+    }
+}
+
+TEST_F(HotFolder, PermissionsThatAreMissing) {
+    using std::filesystem::perms;
+    const auto permit = [this](const std::string &name, unsigned mode) {
+        std::filesystem::permissions(folder.path(name), perms(mode));
+    };
+    const auto cycle = [this] {
+        const OrdinaryUser user;
+        desktop.click(window().CheckBox1);
+        desktop.click(window().CheckBox1);
+        return messages();
+    };
+    EXPECT_EQ(watch(), Lines{});
+    for (const char *name : {"", "watch", "dest", "dest/scc files"})
+        permit(name, 0777);
+    input("show.scc", {hiLine("00:00:01:00")});
+
+    permit("dest", 0555);
+    EXPECT_EQ(cycle(), Lines{failed("“" + folder.path("dest/show.txt") +
+                                    "” cannot be created: Permission denied.")});
+    permit("dest", 0777);
+    permit("watch/show.scc", 0);
+    EXPECT_EQ(cycle(), Lines{failed("“" + folder.path("watch/show.scc") +
+                                    "” cannot be opened: Permission denied.")});
+    permit("watch/show.scc", 0666);
+    permit("watch", 0333);
+    EXPECT_EQ(cycle(), Lines{}) << "a listing that cannot be read is an empty one";
+    EXPECT_TRUE(folder.has("watch/show.scc"));
+}
+
+TEST_F(HotFolder, FoldersThatAreMissingOrNone) {
+    EXPECT_EQ(watch(), Lines{});
+    input("show.scc", {hiLine("00:00:01:00")});
+
+    // The watch folder goes and comes back: no tick says a word, and the watch goes on.
+    std::filesystem::rename(folder.path("watch"), folder.path("away"));
+    EXPECT_EQ(wait(), Lines{});
+    window().ProgressBar1.Visible = false;
+    desktop.click(window().CheckBox1);
+    desktop.click(window().CheckBox1);
+    EXPECT_EQ(messages(), Lines{"Could not locate the Watch folder. Please use the Browse button "
+                                "and reselect it."});
+    EXPECT_TRUE(window().ProgressBar1.Visible);
+    folder.write("watch", "a file");
+    EXPECT_EQ(wait(), Lines{});
+    std::filesystem::remove(folder.path("watch"));
+    std::filesystem::rename(folder.path("away"), folder.path("watch"));
+
+    const Lines noDestination{"Could not locate the Destination folder. Please use the Browse "
+                              "button and reselect it."};
+    std::filesystem::remove_all(folder.path("dest"));
+    EXPECT_EQ(wait(), noDestination);
+    folder.write("dest", "a file");
+    EXPECT_EQ(wait(), noDestination) << "a cycle that ends with a message is followed by others";
+    EXPECT_TRUE(folder.has("watch/show.scc"));
+
+    // Where the folder of the copies is a file, the copy stands beside it.
+    std::filesystem::remove(folder.path("dest"));
+    folder.write("dest/scc files", "a file");
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.tree(), (Lines{"dest/", "dest/scc files", "dest/scc filesshow.scc",
+                                    "dest/show.txt", "watch/"}));
+
+    desktop.answerFolder(folder.item("none/at all"));
+    desktop.click(window().BevelButton7);
+    EXPECT_EQ(messages(), Lines{"No folder selected."});
+    window().destFolder = folder.path("none/at all/");
+    input("show.scc", {hiLine("00:00:01:00")});
+    EXPECT_EQ(wait(), Lines{failed("“" + folder.path("none/at all/") +
+                                   "” is in a folder that does not exist.")});
+    EXPECT_TRUE(folder.has("watch/show.scc"));
+}
+
+TEST_F(HotFolder, TheSwitchAndItsTimer) {
+    desktop.click(window().CheckBox1);
+    EXPECT_EQ(messages(), Lines{kBothFolders});
+    EXPECT_FALSE(window().CheckBox1.Value || window().myWatchFolder || window().Timer1.Enabled);
+    EXPECT_EQ(window().Timer1.Mode, 0);
+
+    folder.write("watch/bad.scc", "header\nbad");
+    EXPECT_EQ(watch(), Lines{kNoTimecode});
+    // The pause is counted from the end of a cycle, and no tick comes while one waits for its
+    // user, in whichever cycle it is.
+    desktop.whileMessage = [this](const std::string &) { desktop.advance(100 * kInterval); };
+    for (int cycle = 0; cycle < 3; ++cycle) {
+        desktop.advance(kInterval - 1);
+        EXPECT_EQ(messages(), Lines{});
+        desktop.advance(1);
+        EXPECT_EQ(messages(), Lines{kNoTimecode}) << cycle;
+    }
+    desktop.whileMessage = nullptr;
+
+    // The wait in progress keeps its length.
+    desktop.type(window().timerText, "0.5");
+    EXPECT_EQ(wait(), Lines{kNoTimecode});
+    desktop.advance(kMinute);
+    EXPECT_EQ(messages(), (Lines{kNoTimecode, kNoTimecode}));
+    desktop.click(window().CheckBox1);
+    EXPECT_FALSE(window().myWatchFolder);
+    EXPECT_EQ(wait(), Lines{});
+
+    const std::pair<const char *, std::int64_t> intervals[] = {
+        {"15", 900000}, {"1", 60000},   {"0.5", 30000},  {"", 0},
+        {"abc", 0},     {" 1", 0},      {"-3", -180000}, {"1e9", 60000000000000},
+        {"1e999", 0},   {"0.00001", 0}, {"2 x", 120000}};
+    for (const auto &[text, period] : intervals) {
+        desktop.type(window().timerText, text);
+        EXPECT_EQ(window().Timer1.Period, period) << text;
+    }
+}
+
+TEST_F(HotFolder, TheCommandThatSwitchesTheWatch) {
+    const auto command = [this] { App::the().menuCommand("FileEnableHotFolder"); };
+    window();
+    desktop.takeLog();
+    desktop.answerFolder(folder.item("watch"));
+    desktop.answerFolder(folder.item("dest"));
+    command();
+    EXPECT_EQ(
+        desktop.takeLog(),
+        (Lines{std::string("message ") + kBothFolders, "message Please select a folder to watch.",
+               "folder dialog", "message Please select a destination folder for decoded files.",
+               "folder dialog"}));
+    EXPECT_EQ(window().TextField1.Text.get(), folder.path("watch/"));
+    EXPECT_EQ(window().destFolder, folder.path("dest/"));
+    EXPECT_FALSE(window().CheckBox1.Value || window().myWatchFolder);
+
+    folder.write("watch/bad.scc", "header\nbad");
+    EXPECT_EQ(wait(), Lines{});
+    command();
+    EXPECT_TRUE(window().CheckBox1.Value && window().myWatchFolder);
+    desktop.advance(kInterval);
+    EXPECT_EQ(messages(), (Lines{kNoTimecode, kNoTimecode}));
+    command();
+    EXPECT_FALSE(window().CheckBox1.Value || window().myWatchFolder);
+    EXPECT_EQ(wait(), Lines{});
+
+    window().hotFolder.clear();
+    desktop.answerFolder(HeadlessDesktop::cancel());
+    command();
+    EXPECT_EQ(messages(), (Lines{kBothFolders, "Please select a folder to watch.",
+                                 failed("the dialog was cancelled.")}));
+}
+
+TEST_F(HotFolder, ACycleAsksForFoldersThatItLacks) {
+    window().hotFolder = folder.path("watch/");
+    input("show.scc", {hiLine("00:00:01:00")});
+    window().Timer1.Enabled = true;
+    desktop.answerFolder(folder.item("dest"));
+    EXPECT_EQ(wait(), Lines{"Please select a destination folder for decoded files."});
+    EXPECT_TRUE(folder.has("dest/show.txt"));
+    EXPECT_EQ(window().TextField2.Text.get(), folder.path("dest/"));
+}
+
+} // namespace
+} // namespace norvane

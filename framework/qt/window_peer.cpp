@@ -105,8 +105,12 @@ void WindowPeer::takeSize() {
 
 void WindowPeer::showWhatIsInView() {
     const QRect area(0, 0, window_.Width, window_.Height);
-    for (const auto &[control, widget] : placed_)
+    for (const auto &[control, widget] : placed_) {
+        const bool wasVisible = widget->isVisible();
         widget->setVisible(control->Visible && area.intersects(widget->geometry()));
+        if (!wasVisible)
+            widget->update(); // which a Refresh paints; showing alone waits for the event loop
+    }
 }
 
 int WindowPeer::menuBarHeight() const {

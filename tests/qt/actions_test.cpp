@@ -1,0 +1,155 @@
+#include "shell/about_win.h"
+#include "shell/app.h"
+#include "tests/qt/desk.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QMenu>
+
+namespace norvane {
+namespace {
+
+class Actions : public Desk {
+  protected:
+    /// The items of a menu that could be chosen now.
+    Lines enabledItems(const char *firstItem) {
+        Lines items;
+        auto *menu = qobject_cast<QMenu *>(at<QAction>(firstItem)->parent());
+        emit menu->aboutToShow();
+        for (const QAction *action : menu->actions()) {
+            if (action->isEnabled() && !action->isSeparator())
+                items.push_back(action->objectName().toStdString());
+        }
+        return items;
+    }
+    void choose(const char *item) { at<QAction>(item)->trigger(); }
+};
+
+TEST_F(Actions, HelpBoxesSayTheirTexts) {
+    for (const char *button : {"BevelButton2", "BevelButton3", "BevelButton8"}) {
+        confirm();
+        click(button);
+    }
+    EXPECT_EQ(
+        messages,
+        (Lines{
+            "This option gives you the more accurate start time since the SCC format builds in a "
+            "buffer time of about 1 frame per 4-digit code prior to the caption's actual start "
+            "time. The timecode will be displayed in hundredths of a second.",
+            "This option will leave the SCC timecode the way it is in frames. You may want to use "
+            "this if you are attempting to troubleshoot an SCC file that has errors, for example.",
+            "If you designate a folder to watch, Norvane will keep checking the folder and will "
+            "decode any files it finds in that folder at the given number of minutes. Click the "
+            "triangle for settings and to activate this feature."}));
+}
+
+TEST_F(Actions, DialogsCancelledAtEveryPoint) {
+    folder.write("one.scc", sccFile({hiLine("00:00:01:00")}));
+    click("PopupArrow1");
+    cancel();
+    click("BevelButton1");
+    EXPECT_TRUE(window().timeCodeArray.empty());
+    decode("one.scc", "");
+    EXPECT_EQ(window().timeCodeArray.size(), 1U);
+    EXPECT_FALSE(at("ProgressBar1")->isVisible());
+    EXPECT_EQ(messages, Lines());
+    for (const char *chooser : {"BevelButton4", "BevelButton6", "BevelButton7"}) {
+        cancel();
+        confirm();
+        click(chooser);
+    }
+    confirm();
+    click("CheckBox1");
+    EXPECT_FALSE(at("CheckBox1")->property("checked").toBool());
+    EXPECT_EQ(messages, (Lines{"No folder selected.", "No folder selected.", "No folder selected.",
+                               "You must choose both a watch folder and a destination folder to "
+                               "activate the timer."}));
+    answerPath(folder.path());
+    click("BevelButton6");
+    EXPECT_EQ(at<QLineEdit>("TextField1")->text().toStdString(), folder.path());
+    EXPECT_EQ(window().hotFolder, folder.path());
+}
+
+TEST_F(Actions, AFailureIsToldOnceAndTheNextDecodeWorks) {
+    folder.write("bad.scc", sccFile({hiLine("00:00:01:00"), hiLine("00:00:05")}));
+    folder.write("good.scc", sccFile({hiLine("00:01:00:00")}));
+    answerPath(folder.path("bad.scc"));
+    confirm();
+    click("BevelButton1");
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_TRUE(messages[0].starts_with("This could not be finished: ")) << messages[0];
+    EXPECT_EQ(messages[0].find("exception"), std::string::npos);
+    decode("good.scc", "good.txt");
+    EXPECT_EQ(folder.read("good.txt"), "Transcripts of good\n\n[00:00:01.33]\t Hi! \n\n\n");
+    EXPECT_EQ(messages.back(),
+              "The desktop has no program that opens this file:\n" + folder.path("good.txt"));
+}
+
+TEST_F(Actions, EditItemsServeTheFieldWithTheFocus) {
+    QGuiApplication::clipboard()->clear();
+    EXPECT_EQ(enabledItems("FileQuit"), (Lines{"FileQuit", "FileAboutNorvane"}));
+    at("LineBox")->setFocus();
+    EXPECT_EQ(enabledItems("EditUndo"), Lines());
+    click("PopupArrow1");
+    auto *field = at<QLineEdit>("timerText");
+    field->setFocus();
+    field->deselect();
+    EXPECT_EQ(enabledItems("EditUndo"), Lines{"EditSelectAll"});
+    choose("EditSelectAll");
+    EXPECT_EQ(enabledItems("EditUndo"),
+              (Lines{"EditCut", "EditCopy", "EditClear", "EditSelectAll"}));
+    choose("EditCut");
+    EXPECT_EQ(window().timerText.Text.get(), "");
+    EXPECT_EQ(enabledItems("EditUndo"), (Lines{"EditUndo", "EditPaste"}));
+    choose("EditPaste");
+    choose("EditPaste");
+    EXPECT_EQ(window().timerText.Text.get(), "1515");
+    choose("EditUndo");
+    EXPECT_EQ(window().timerText.Text.get(), "15");
+}
+
+TEST_F(Actions, AboutIsOneWindowAndOutlivesTheMainOne) {
+    choose("FileAboutNorvane");
+    QPointer<QWidget> first = desktop.peerOf(aboutWin::the());
+    choose("FileAboutNorvane");
+    EXPECT_EQ(first, desktop.peerOf(aboutWin::the()));
+    EXPECT_EQ(first->windowTitle(), "About Norvane");
+    EXPECT_LE(first->findChild<QWidget *>("Label1")->heightForWidth(372), 141);
+    first->resize(700, 400);
+    EXPECT_EQ(aboutWin::the().Width, 700);
+    QPointer<QWidget> main = peer();
+    main->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return main.isNull(); }));
+    EXPECT_TRUE(preferences.has("com.bellwick.norvane.prefs"));
+    EXPECT_TRUE(first->isVisible());
+    _LateStartup();
+    EXPECT_TRUE(peer()->isVisible());
+}
+
+TEST_F(Actions, AWindowInTheMiddleOfAnActionStays) {
+    answers([](QWidget &box) {
+        box.parentWidget()->close();
+        box.close();
+    });
+    click("BevelButton2");
+    EXPECT_TRUE(peer()->isVisible());
+}
+
+TEST_F(Actions, TimersTickWhenDue) {
+    int ticks = 0;
+    Timer timer;
+    Timer never;
+    timer.Action = [&] { ++ticks; };
+    never.Action = [&] { ticks += 1000; };
+    never.Period = std::numeric_limits<std::int64_t>::max();
+    never.Reset();
+    timer.Period = 20;
+    timer.Reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks == 3; }));
+    timer.Mode = 0;
+    QTest::qWait(60);
+    EXPECT_EQ(ticks, 3);
+}
+
+} // namespace
+} // namespace norvane

@@ -25,8 +25,6 @@ Timer::~Timer() {
 }
 
 void Timer::Reset() {
-    if (!Enabled)
-        return;
     Mode = 2; // so that the next 0 is a change, and stops the timer again
     restart();
 }

@@ -27,7 +27,7 @@ class Timer {
     Property<std::int64_t> Period{60000};
     Property<bool> Enabled{true};
 
-    /// Starts a whole wait and sets Mode to 2; does nothing where Enabled is false.
+    /// Sets Mode to 2 and, where Enabled is true, starts a whole wait.
     void Reset();
 
     std::function<void()> Action;

@@ -79,6 +79,12 @@ TEST_F(Files, AFileIsWrittenWholeOrNotAtAll) {
     EXPECT_EQ(folder.read("old.txt"), "new\n");
     EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link")));
     EXPECT_EQ(folder.tree(), (Lines{"link", "old.txt", "source"}));
+
+    // What is no file stays, and nobody waits for it.
+    ASSERT_EQ(mkfifo(folder.path("fifo").c_str(), 0600), 0);
+    EXPECT_FALSE(folder.item("fifo")->CreateTextFile());
+    EXPECT_FALSE(folder.item("")->CreateTextFile());
+    EXPECT_FALSE(FolderItem(folder.path("none/a.txt")).CreateTextFile());
 }
 
 TEST_F(Files, WhatAKilledWriterLeftIsRemovedAndNoOthers) {
@@ -90,24 +96,6 @@ TEST_F(Files, WhatAKilledWriterLeftIsRemovedAndNoOthers) {
     folder.item("a.txt")->CreateTextFile()->Close();
     close(atWork);
     EXPECT_EQ(folder.tree(), (Lines{".norvane-2.part", ".norvane-notes", "a.txt"}));
-}
-
-TEST_F(Files, OddFilesNeitherHangNorCopy) {
-    folder.write("folder/inside", "");
-    ASSERT_EQ(mkfifo(folder.path("fifo").c_str(), 0600), 0);
-    std::filesystem::create_symlink("/dev/zero", folder.path("device"));
-    std::filesystem::create_symlink("none", folder.path("dangling"));
-    std::filesystem::create_symlink("circular", folder.path("circular"));
-    for (const char *name : {"folder", "fifo", "device", "dangling", "circular", "none"}) {
-        const auto item = folder.item(name);
-        EXPECT_FALSE(item->OpenAsTextFile()) << name;
-        item->CopyFileTo(*folder.item("copy"));
-        EXPECT_FALSE(folder.has("copy")) << name;
-    }
-    for (const char *name : {"folder", "fifo", "device"})
-        EXPECT_FALSE(folder.item(name)->CreateTextFile()) << name;
-    EXPECT_FALSE(GetFolderItem(folder.path("none"), 0)->Child("a.txt"));
-    EXPECT_FALSE(Ref(std::make_shared<FolderItem>(folder.path("none/a.txt")))->CreateTextFile());
 }
 
 } // namespace

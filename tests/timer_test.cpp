@@ -65,15 +65,5 @@ TEST_F(TimerTest, PeriodsApplyFromTheNextWait) {
     EXPECT_EQ(ticksIn(kHour), 0);
 }
 
-TEST_F(TimerTest, AFailureInATickLeavesTheTimerAsItWas) {
-    timer.Action = [this] {
-        timer.Mode = 0;
-        throw RuntimeException("the tick failed.");
-    };
-    EXPECT_EQ(ticksIn(kHour), 0);
-    EXPECT_EQ(desktop.takeLog(),
-              std::vector<std::string>{"message This could not be finished: the tick failed."});
-}
-
 } // namespace
 } // namespace norvane

@@ -65,7 +65,10 @@ void fileToTranscript(benchmark::State &state) {
       public:
         explicit InMemory(const std::string *text) : FolderItem("/memory.scc"), text_(text) {}
         Ref<TextInputStream> OpenAsTextFile() const override {
-            return Ref(std::make_shared<TextInputStream>(*text_));
+            Bytes bytes(text_->size());
+            std::copy(text_->begin(), text_->end(), bytes.rest());
+            bytes.fill(text_->size());
+            return Ref(std::make_shared<TextInputStream>(std::move(bytes)));
         }
         Ref<TextOutputStream> CreateTextFile() const override {
             return Ref(std::make_shared<TextOutputStream>(std::make_unique<Nowhere>()));

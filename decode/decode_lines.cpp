@@ -11,20 +11,15 @@ constexpr double kProgressMaximum = 65536.0;
 
 /// The lines of the stream that are not empty; the views are the stream's.
 std::vector<std::string_view> readLines(TextInputStream &stream) {
+    constexpr std::size_t kShortLine = 80; // bytes; room for more lines than nearly all files have
     std::vector<std::string_view> lineArray;
+    lineArray.reserve(stream.size() / kShortLine);
     do {
         const std::string_view line = stream.ReadLine();
         if (!line.empty())
             lineArray.push_back(line);
     } while (!stream.EndOfFile());
     return lineArray;
-}
-
-std::string_view takeField(std::string_view &line) {
-    const std::size_t tab = std::min(line.find('\t'), line.size());
-    const std::string_view field = line.substr(0, tab);
-    line.remove_prefix(std::min(tab + 1, line.size()));
-    return field;
 }
 
 } // namespace
@@ -39,6 +34,9 @@ bool Window1::decodeLines(TextInputStream &stream) {
     ProgressBar1.Maximum = static_cast<int>(kProgressMaximum);
 
     const std::vector<std::string_view> lineArray = readLines(stream);
+    // Room ahead costs nothing where it is not used.
+    captionArray2.reserve(lineArray.size(), stream.size() / 2);
+    timeCodeArray.reserve(timeCodeArray.size() + lineArray.size(), stream.size() / 8);
     // The first line is the header, whatever stands there.
     for (std::size_t i = 1; i < lineArray.size(); ++i) {
         const double part = static_cast<double>(i) / static_cast<double>(lineArray.size() - 1);
@@ -47,13 +45,15 @@ bool Window1::decodeLines(TextInputStream &stream) {
 
         if (!patternRegEx.Search(lineArray[i]))
             return stopAtBadLine("There does not appear to be any timecode in this file.");
-        if (!tabRegEx.Search(lineArray[i]))
+        const auto tab = tabRegEx.Search(lineArray[i]);
+        if (!tab)
             return stopAtBadLine(
                 "This SCC file does not appear to be formatted correctly. It needs to "
                 "have a tab between the timecode and the hexidecimal caption code.");
-        std::string_view line = lineArray[i];
-        const std::string_view timecode = takeField(line);
-        const std::string_view hexText = takeField(line);
+        // Of the fields between tabs, only two count.
+        const std::string_view timecode = lineArray[i].substr(0, tab->start);
+        const std::string_view behind = lineArray[i].substr(tab->start + 1);
+        const std::string_view hexText = behind.substr(0, behind.find('\t'));
         if (RadioButton1.Value)
             timeCodeArray.Append(unbufferedTimecode(timecode, hexText));
         else

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 
 namespace norvane {
 
@@ -31,8 +33,27 @@ std::array<double, count> fieldsOf(std::string_view timecode) {
     return fields;
 }
 
+/// The fields of a timecode of the ordinary form, eight digits in pairs, without reading them as
+/// texts.
+std::optional<std::array<double, 4>> ordinaryFields(std::string_view timecode) {
+    constexpr std::string_view kForm = "00:00:00:00";
+    if (timecode.size() != kForm.size())
+        return {};
+    std::array<double, 4> fields{};
+    for (std::size_t field = 0; field < fields.size(); ++field) {
+        const char *const place = timecode.data() + 3 * field;
+        const auto tens = static_cast<unsigned>(place[0] - '0');
+        const auto ones = static_cast<unsigned>(place[1] - '0');
+        if (tens > 9 || ones > 9 || (field < 3 && place[2] != ':'))
+            return {};
+        fields[field] = tens * 10 + ones;
+    }
+    return fields;
+}
+
 double sccSeconds(std::string_view timecode) {
-    const auto [hours, minutes, seconds, frames] = fieldsOf<4>(timecode);
+    const auto ordinary = ordinaryFields(timecode);
+    const auto [hours, minutes, seconds, frames] = ordinary ? *ordinary : fieldsOf<4>(timecode);
     return hours * 3600 + minutes * 60 + seconds + frames / kFramesPerSecond;
 }
 
@@ -45,6 +66,11 @@ double wholeMinutes(double minutes) {
         return std::trunc(rounded);
     const std::string text = Str(minutes);
     return Val(text.substr(0, text.find('.')));
+}
+
+void putPair(std::string &text, std::size_t place, unsigned number) {
+    text[place] = static_cast<char>('0' + number / 10);
+    text[place + 1] = static_cast<char>('0' + number % 10);
 }
 
 } // namespace
@@ -76,13 +102,16 @@ std::string returnTimecode(double seconds) {
         minutes = sevenDigits(minutes - hours * 60);
     }
     // The decimal mark is a point everywhere, so there is no comma to replace.
-    std::string text;
-    appendFixed(text, hours, 2, 0);
-    text += ':';
-    appendFixed(text, minutes, 2, 0);
-    text += ':';
-    appendFixed(text, rest, 2, 2);
-    return text;
+    const auto hundredths = roundedProduct(rest, 2);
+    if (hours < 100 && hundredths && *hundredths < 10000) {
+        std::string text = "00:00:00.00";
+        putPair(text, 0, static_cast<unsigned>(hours));
+        putPair(text, 3, static_cast<unsigned>(minutes));
+        putPair(text, 6, *hundredths / 100);
+        putPair(text, 9, *hundredths % 100);
+        return text;
+    }
+    return Format(hours, "00") + ":" + Format(minutes, "00") + ":" + Format(rest, "00.00");
 }
 
 std::string unbufferedTimecode(std::string_view timecode, std::string_view hexText) {

@@ -6,6 +6,8 @@
 #include "decode/rows_of_code.h"
 #include "framework/text.h"
 
+#include <bit>
+#include <cstdint>
 #include <cstring>
 
 namespace norvane {
@@ -17,7 +19,7 @@ using State = CrossingKeys::State;
 /// A few bytes of a caption.
 struct Piece {
     std::array<char, 4> text{};
-    unsigned char size = 0;
+    std::uint32_t size = 0;
 };
 
 /// Pieces are written whole and then counted, so the last may reach this far beyond.
@@ -73,39 +75,44 @@ const std::array<WordEffect, kLastWalkedRow + 1> kEffects = [] {
     return effects;
 }();
 
-const std::array<Piece, 256> kLetterPieces = [] {
-    std::array<Piece, 256> pieces{};
-    for (std::size_t byte = 0; byte < pieces.size(); ++byte)
-        pieces.at(byte) = pieceOf(letterOf(static_cast<unsigned char>(byte)));
-    return pieces;
+/// What two characters are when they are the hex digits of a byte.
+struct ByteText {
+    std::array<char, 4> letter{}; // or the two as they are, of a byte without one
+    unsigned char size = 0;
+    unsigned char byte = 0;
+    State behind = CrossingKeys::kNothing; // what the digits end in by themselves
+    bool isByte = false;
+};
+
+/// By the two characters, in their place in memory read as a number.
+const std::array<ByteText, 0x10000> kByteTexts = [] {
+    std::array<ByteText, 0x10000> texts{};
+    constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
+    for (const char first : kDigits) {
+        for (const char second : kDigits) {
+            const std::array<char, 2> digits = {first, second};
+            const auto byte =
+                static_cast<unsigned char>(hexDigitValue(first) * 16 + hexDigitValue(second));
+            const std::string_view letter = letterOf(byte);
+            const Piece piece =
+                pieceOf(letter.empty() ? std::string_view(digits.data(), 2) : letter);
+            texts.at(std::bit_cast<std::uint16_t>(digits)) = {
+                piece.text, static_cast<unsigned char>(piece.size), byte,
+                kCrossingKeys.byte.at(CrossingKeys::kNothing).at(byte), true};
+        }
+    }
+    return texts;
 }();
 
-/// Each character's value as a hex digit, or -1.
-constexpr std::array<int, 256> kDigitValue = [] {
-    std::array<int, 256> values{};
-    for (std::size_t c = 0; c < values.size(); ++c)
-        values.at(c) = hexDigitValue(static_cast<char>(c));
-    return values;
-}();
-
-/// The value of four hex digits; negative when one is none.
-int wordAt(const char *digits) {
-    const auto value = [&](int i) { return kDigitValue[static_cast<unsigned char>(digits[i])]; };
-    return value(0) * 0x1000 | value(1) * 0x100 | value(2) * 0x10 | value(3);
+const ByteText &byteTextAt(const char *digits) {
+    std::uint16_t place = 0;
+    std::memcpy(&place, digits, sizeof place);
+    return kByteTexts[place];
 }
 
-char *put(char *out, const Piece &piece) {
-    std::memcpy(out, piece.text.data(), piece.text.size());
-    return out + piece.size;
-}
-
-/// The letter of a byte, or the two digits that it was written with.
-char *putLetter(char *out, unsigned byte, const char *digits) {
-    const Piece &letter = kLetterPieces[byte];
-    if (letter.size != 0)
-        return put(out, letter);
-    std::memcpy(out, digits, 2);
-    return out + 2;
+char *put(char *out, const std::array<char, 4> &text, std::size_t size) {
+    std::memcpy(out, text.data(), text.size());
+    return out + size;
 }
 
 /// Writes the caption of `hexText` at `out`, which has room for as many bytes; gives its end, or
@@ -117,40 +124,42 @@ char *putWords(char *out, std::string_view hexText) {
     const char *next = hexText.data();
     const char *const end = next + hexText.size();
     while (next != end) {
-        if (*next == ' ') {
+        const char *const digits = next;
+        if (*digits == ' ') {
             ++next;
             continue;
         }
-        const char *const digits = next;
-        if (end - digits < 4 || (end - digits > 4 && digits[4] != ' '))
+        if (end - digits > 4 && digits[4] == ' ')
+            next += 5;
+        else if (end - digits == 4)
+            next = end;
+        else
             return nullptr;
-        next += 4;
-        const int code = wordAt(digits);
-        if (code < 0)
+        const ByteText &high = byteTextAt(digits);
+        const ByteText &low = byteTextAt(digits + 2);
+        if (!high.isByte || !low.isByte)
             return nullptr;
-        const unsigned high = static_cast<unsigned>(code) >> 8U;
-        const unsigned low = static_cast<unsigned>(code) & 0xFFU;
 
-        if (const std::size_t row = kRowsOfCode.first[static_cast<unsigned>(code)]; row != 0) {
+        if (const std::size_t row = kRowsOfCode.first[high.byte * 0x100U + low.byte]; row != 0) {
             const WordEffect &effect = kEffects[row];
             if (!effect.alone ||
-                (effect.late && matches(keys.digit[keys.byte[state][high]][low >> 4U])))
+                (effect.late && matches(keys.digit[keys.byte[state][high.byte]][low.byte >> 4U])))
                 return nullptr;
             // A word that will be gone joins its neighbours. One that is replaced parts them, but
             // until then its own digits stand beside the next ones.
             state = effect.piece.size == 0 ? state : effect.behind;
-            out = put(out, effect.piece);
-        } else if (low != kFiller) {
-            if (matches(keys.byte[keys.byte[state][high]][low]))
+            out = put(out, effect.piece.text, effect.piece.size);
+        } else if (low.byte != kFiller) {
+            if (matches(keys.byte[keys.byte[state][high.byte]][low.byte]))
                 return nullptr;
             // No beginning of a key is as long as a word, so what stood before it does not count.
-            state = keys.byte[keys.byte[CrossingKeys::kNothing][high]][low];
-            out = putLetter(out, high, digits);
-            out = putLetter(out, low, digits + 2);
+            state = keys.byte[high.behind][low.byte];
+            out = put(out, high.letter, high.size);
+            out = put(out, low.letter, low.size);
         } else {
-            if (high != kFiller) {
-                state = keys.byte[state][high];
-                out = putLetter(out, high, digits);
+            if (high.byte != kFiller) {
+                state = keys.byte[state][high.byte];
+                out = put(out, high.letter, high.size);
             }
             if (matches(keys.digit[state][kFiller >> 4U]))
                 return nullptr;
@@ -166,8 +175,10 @@ bool appendCaptionByWords(std::string &captions, std::string_view hexText) {
     captions.resize(start + hexText.size() + kRoomBeyond);
     char *const out = captions.data() + start;
     char *end = putWords(out, hexText);
-    if (end == out) // all deleted
-        end = put(out, pieceOf("  "));
+    if (end == out) { // all deleted
+        *end++ = ' ';
+        *end++ = ' ';
+    }
     captions.resize(end == nullptr ? start : static_cast<std::size_t>(end - captions.data()));
     return end != nullptr;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/bytes.h"
 #include "framework/text_streams.h"
 
 #include <string>
@@ -42,8 +43,11 @@ class InputFile {
 
     bool isOpen() const { return handle_ >= 0; }
 
-    /// Appends at most `most` further bytes to `bytes`; false at the end. Throws IOException.
-    bool readSome(std::string &bytes, std::size_t most);
+    /// Fills the rest of `bytes`, or some of it; false at the end of the file. Throws IOException.
+    bool readSome(Bytes &bytes);
+
+    /// All that is left of the file. Throws IOException.
+    Bytes readAll();
 
     /// The size in bytes when it was opened: a hint, since it may grow or shrink.
     std::size_t size() const { return size_; }

@@ -95,9 +95,9 @@ void FolderItem::CopyFileTo(const FolderItem &target) const {
     if (!copy.isOpen())
         return;
     try {
-        std::string block;
-        while (source.readSome(block, std::clamp(source.size(), kLeastBlock, kMostBlock))) {
-            copy.write(block);
+        Bytes block(std::clamp(source.size(), kLeastBlock, kMostBlock));
+        while (source.readSome(block)) {
+            copy.write(block.view());
             block.clear();
         }
         copy.commit();
@@ -124,13 +124,7 @@ Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
     disk::InputFile file(path_, problem);
     if (!file.isOpen())
         return Ref<TextInputStream>::nil(problem);
-    std::string text;
-    text.reserve(file.size() +
-                 kLeastBlock); // the end shows in a read of nothing, which needs room too
-    std::size_t wanted = file.size();
-    while (file.readSome(text, std::max(wanted, kLeastBlock)))
-        wanted = file.size() - std::min(file.size(), text.size());
-    return Ref(std::make_shared<TextInputStream>(std::move(text)));
+    return Ref(std::make_shared<TextInputStream>(file.readAll()));
 }
 
 void FolderItem::Launch(bool activate) const {

@@ -17,13 +17,8 @@ namespace {
 constexpr std::array<double, 16> kPowerOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+} // namespace
 
-/// value * 10^decimals rounded to the nearest whole number, when plain arithmetic proves it: the
-/// product is below 10^9, so its error is below 10^-6, and it is not so near a half that this
-/// matters.
 std::optional<std::uint32_t> roundedProduct(double value, std::size_t decimals) {
     const double product = value * kPowerOfTen[decimals];
     if (!(product >= 0 && product < 1e9))
@@ -35,6 +30,12 @@ std::optional<std::uint32_t> roundedProduct(double value, std::size_t decimals) 
     return rest > 0.5 ? whole + 1 : whole;
 }
 
+namespace {
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 constexpr std::size_t kSignificantDigits = 7;
 
 struct DecimalNumber {
@@ -43,12 +44,12 @@ struct DecimalNumber {
 };
 
 /// The seven digits of a value from 1 on, unless they take an exponent or are too near to a half.
-std::optional<DecimalNumber> sevenDigitNumber(double value) {
+inline std::optional<DecimalNumber> sevenDigitNumber(double value) {
     if (!(value >= 1 && value < kPowerOfTen[kSignificantDigits]))
         return {};
     std::size_t integers = 1;
-    while (value >= kPowerOfTen[integers])
-        ++integers;
+    for (std::size_t power = 1; power < kSignificantDigits; ++power) // counted without a branch
+        integers += value >= kPowerOfTen[power] ? 1 : 0;
     const auto digits = roundedProduct(value, kSignificantDigits - integers);
     if (!digits || *digits >= kPowerOfTen[kSignificantDigits])
         return {};

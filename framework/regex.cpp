@@ -1,11 +1,12 @@
 #include "framework/regex.h"
 
-
 namespace norvane {
 
 namespace {
 
-std::size_t byteOf(char c) { return static_cast<unsigned char>(c); }
+std::size_t byteOf(char c) {
+    return static_cast<unsigned char>(c);
+}
 
 void addBothCases(std::bitset<256> &bytes, char c) {
     bytes.set(byteOf(c));
@@ -59,9 +60,14 @@ void RegEx::setSearchPattern(std::string_view pattern) {
     items_.clear();
     while (!pattern.empty())
         items_.push_back(takeItem(pattern));
+    oneByte_ = pattern_.size() == 1 && items_[0].count() == 1;
 }
 
 std::optional<RegExMatch> RegEx::Search(std::string_view text) const {
+    if (oneByte_) {
+        const std::size_t at = text.find(pattern_[0]);
+        return at == std::string_view::npos ? std::nullopt : std::optional(RegExMatch{at, 1});
+    }
     for (std::size_t start = 0; start + items_.size() <= text.size(); ++start) {
         std::size_t matched = 0;
         while (matched < items_.size() && items_[matched].test(byteOf(text[start + matched])))

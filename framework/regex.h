@@ -15,9 +15,10 @@ struct RegExMatch {
     std::size_t length;
 };
 
-/// A search for a pattern, ignoring case and not anchored. A pattern is a row of items that each take
-/// one character: a literal, "." (any), "\d" (an ASCII digit), "\" before a character that stands for
-/// itself, and "[...]" or "[^...]" (one, or none, of the ASCII characters listed). There is no repetition.
+/// A search for a pattern, ignoring case and not anchored. A pattern is a row of items that each
+/// take one character: a literal, "." (any), "\d" (an ASCII digit), "\" before a character that
+/// stands for itself, and "[...]" or "[^...]" (one, or none, of the ASCII characters listed). There
+/// is no repetition.
 class RegEx {
   public:
     RegEx() = default;
@@ -37,6 +38,7 @@ class RegEx {
 
     std::string pattern_;
     std::vector<ByteSet> items_;
+    bool oneByte_ = false; // the pattern is a single character without case
 };
 
 } // namespace norvane

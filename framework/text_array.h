@@ -21,6 +21,9 @@ class TextArray {
         return {bytes_.data() + piece.offset, piece.size};
     }
 
+    /// At least as many bytes as the texts have together.
+    std::size_t byteCount() const { return bytes_.size(); }
+
     /// False when no text holds the ASCII character `c`.
     bool holds(char c) const { return bytes_.find(c) != std::string::npos; }
 

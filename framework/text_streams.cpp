@@ -6,24 +6,22 @@
 
 namespace norvane {
 
-std::size_t TextInputStream::nextOf(char ending, std::size_t &known) const {
-    if (known < position_ || (known == position_ && text_[known] != ending))
-        known = std::min(text_.find(ending, position_), text_.size());
-    return known;
-}
-
 std::string_view TextInputStream::ReadLine() {
     if (EndOfFile())
         return {};
-    const std::size_t start = position_;
-    const std::size_t end = std::min(nextOf('\n', nextLineFeed_), nextOf('\r', nextReturn_));
-    const std::string_view ending = std::string_view(text_).substr(end, 2);
-    position_ = end + (ending == "\r\n" ? 2 : ending.empty() ? 0 : 1);
-    return std::string_view(text_).substr(start, end - start);
+    const std::string_view text = text_.view();
+    if (nextLineFeed_ < position_ || position_ == 0)
+        nextLineFeed_ = std::min(text.find('\n', position_), text.size());
+    const std::string_view upToLineFeed = text.substr(position_, nextLineFeed_ - position_);
+    const std::string_view line = upToLineFeed.substr(0, upToLineFeed.find('\r'));
+    position_ += line.size();
+    const std::string_view ending = text.substr(position_, 2);
+    position_ += ending == "\r\n" ? 2 : ending.empty() ? 0 : 1;
+    return line;
 }
 
 void TextInputStream::Close() {
-    text_ = std::string();
+    text_ = Bytes();
     position_ = 0;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/bytes.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -9,7 +11,7 @@ namespace norvane {
 /// A text file's content, read line by line. The whole file is in memory.
 class TextInputStream {
   public:
-    explicit TextInputStream(std::string text) : text_(std::move(text)) {}
+    explicit TextInputStream(Bytes text) : text_(std::move(text)) {}
 
     /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the
     /// last ending is a line as well. At the end of the file, the empty text. The view holds until
@@ -25,14 +27,9 @@ class TextInputStream {
     void Close();
 
   private:
-    std::size_t nextOf(char ending, std::size_t &known) const;
-
-    std::string text_;
+    Bytes text_;
     std::size_t position_ = 0;
-    // Where the next LF and CR stand, as last found: a file without one is searched for it only
-    // once.
-    std::size_t nextLineFeed_ = 0;
-    std::size_t nextReturn_ = 0;
+    std::size_t nextLineFeed_ = 0; // or the end of the text
 };
 
 /// Where a stream's text goes: it counts as written when commit returns. Both throw IOException.

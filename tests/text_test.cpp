@@ -173,7 +173,11 @@ TEST(Text, PatternsAreSearchedAnywhereIgnoringCase) {
 }
 
 TEST(Text, LinesEndInAnyWay) {
-    TextInputStream stream("a\r\n\r\nb\rc\n\rd\n\ne");
+    const std::string_view text = "a\r\n\r\nb\rc\n\rd\n\ne";
+    Bytes bytes(text.size());
+    std::copy(text.begin(), text.end(), bytes.rest());
+    bytes.fill(text.size());
+    TextInputStream stream(std::move(bytes));
     Pieces lines;
     while (!stream.EndOfFile())
         lines.emplace_back(stream.ReadLine());

@@ -3,6 +3,9 @@
 #include "decode/accent_pairs.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <cstring>
 
 namespace norvane {
@@ -10,6 +13,9 @@ namespace norvane {
 namespace {
 
 constexpr std::string_view kBar = "|";
+
+/// What the first text pass looks for; it takes the blank.
+constexpr std::string_view kTabPass = "]\\t ";
 
 /// What the second pass looks for: kept as these five characters, which are no pattern there.
 constexpr std::string_view kLiteralPattern = "[^ *]";
@@ -60,47 +66,39 @@ std::size_t hyphensTaken(std::string_view text) {
         std::count_if(kAccentPairs.begin(), kAccentPairs.end(), isOfRow));
 }
 
-/// All rows of the accent pairs at once: each takes a hyphen behind its own character and has
-/// nothing to do with what the others take.
-void removeAccentHyphens(std::string &text) {
-    const std::string_view before = text; // a cut moves only what has been read
-    Cutter cutter(text);
-    std::size_t end = 0;
-    for (std::size_t hyphen = text.find('-'); hyphen != std::string::npos;
-         hyphen = text.find('-', end)) {
-        end = std::min(text.find_first_not_of('-', hyphen), text.size());
-        // The cutter may have moved what stands before this, but not the four bytes just in front.
-        const std::size_t taken = hyphensTaken(before.substr(0, hyphen));
-        if (taken > 0)
-            cutter.cut(hyphen, std::min(taken, end - hyphen));
-    }
+/// Where some pass may do something: not 0 for such a character, or for each such of a block of
+/// them.
+template <class Characters>
+auto mayChange(Characters c, Characters next) {
+    return ((c == ' ') & (next == ' ')) | (c == '|') | (c == '-') | (c == '\\');
 }
 
-/// Where two blanks stand side by side, from `start` on; the end of the text when nowhere.
-std::size_t findTwoBlanks(std::string_view text, std::size_t start) {
-    // Of any two, one stands at an odd place.
-    for (std::size_t odd = start | 1U; odd < text.size(); odd += 2) {
-        if (text[odd] != ' ')
+/// The first place from `start` on where a pass may do something; the end of the text when nowhere.
+std::size_t nextChange(std::string_view text, std::size_t start) {
+    using Block = char __attribute__((vector_size(16))); // compared all at once
+    std::size_t at = start;
+    for (; at + sizeof(Block) < text.size(); at += sizeof(Block)) {
+        Block block;
+        Block next;
+        std::memcpy(&block, text.data() + at, sizeof block);
+        std::memcpy(&next, text.data() + at + 1, sizeof next);
+        const auto found = mayChange(block, next);
+        std::array<std::uint64_t, 2> halves{};
+        std::memcpy(halves.data(), &found, sizeof found);
+        if ((halves[0] | halves[1]) == 0)
             continue;
-        if (odd > start && text[odd - 1] == ' ')
-            return odd - 1;
-        if (odd + 1 < text.size() && text[odd + 1] == ' ')
-            return odd;
+        if constexpr (std::endian::native == std::endian::little) {
+            constexpr std::size_t kBits = 8;
+            return at +
+                   (halves[0] != 0
+                        ? static_cast<std::size_t>(std::countr_zero(halves[0])) / kBits
+                        : kBits + static_cast<std::size_t>(std::countr_zero(halves[1])) / kBits);
+        }
+        break;
     }
-    return text.size();
-}
-
-/// Three halvings of each run of blanks, a half counting as a whole each time.
-void foldBlanks(std::string &text) {
-    constexpr std::size_t kEighth = 8;
-    Cutter cutter(text);
-    std::size_t end = 0;
-    for (std::size_t run = findTwoBlanks(text, 0); run != text.size();
-         run = findTwoBlanks(text, end)) {
-        end = std::min(text.find_first_not_of(' ', run), text.size());
-        const std::size_t left = (end - run + kEighth - 1) / kEighth;
-        cutter.cut(run + left, end - run - left);
-    }
+    while (at < text.size() && mayChange(text[at], at + 1 < text.size() ? text[at + 1] : '\0') == 0)
+        ++at;
+    return at;
 }
 
 } // namespace
@@ -118,13 +116,41 @@ void cleanEntries(TextArray &captions) {
     }
 }
 
+// The passes in one go. They do not disturb each other: a hyphen goes because of the character
+// before it, which stays; bars count as blanks before blanks are folded; and the first pass, which
+// comes before all that, takes a blank of its own.
 void cleanTranscript(std::string &transcriptText) {
-    // Kept: a backslash and the letter t, and no tab, so the blank behind a real tab stays.
-    if (transcriptText.find('\\') != std::string::npos)
-        transcriptText = ReplaceAll(transcriptText, "]\\t ", "]\\t");
-    removeAccentHyphens(transcriptText);
-    std::replace(transcriptText.begin(), transcriptText.end(), '|', ' ');
-    foldBlanks(transcriptText);
+    constexpr std::size_t kEighth =
+        8; // what three halvings leave of a run, a half counting as a whole
+    const std::string_view text = transcriptText; // a cut moves only what was read
+    Cutter cutter(transcriptText);
+    std::size_t done = 0;
+    for (std::size_t at = nextChange(text, 0); at < text.size(); at = nextChange(text, done)) {
+        const auto pastAll = [&text, at](std::string_view characters) {
+            std::size_t end = at + 1;
+            while (end < text.size() && characters.find(text[end]) != std::string_view::npos)
+                ++end;
+            return end;
+        };
+        if (text[at] == '-') {
+            done = pastAll("-");
+            cutter.cut(at, std::min(hyphensTaken(text.substr(0, at)), done - at));
+        } else if (text[at] == '\\') {
+            // Kept: a backslash and the letter t, and no tab, so the blank behind a real tab stays.
+            done = at + 1;
+            if (at > 0 && equal(text.substr(at - 1, kTabPass.size()), kTabPass)) {
+                transcriptText[at + 1] = kTabPass[2]; // it looks for both cases and puts in one
+                cutter.cut(at + 2, 1);
+                done = at + 3;
+            }
+        } else {
+            const std::size_t run = at > done && text[at - 1] == ' ' ? at - 1 : at;
+            done = pastAll(" |");
+            const std::size_t left = (done - run + kEighth - 1) / kEighth;
+            std::fill_n(transcriptText.begin() + static_cast<std::ptrdiff_t>(run), left, ' ');
+            cutter.cut(run + left, done - run - left);
+        }
+    }
 }
 
 } // namespace norvane

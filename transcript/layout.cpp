@@ -3,17 +3,24 @@
 namespace norvane {
 
 std::string layOut(Form form, const TextArray &captions, TextArray &timecodes) {
+    constexpr std::size_t kMostBesideTexts = 7; // bytes of brackets, tab and ends of line
     std::string body;
+    body.reserve(captions.byteCount() + timecodes.byteCount() + captions.size() * kMostBesideTexts);
     for (std::size_t i = 0; i < captions.size(); ++i) {
         if (timecodes[i].find(',') != std::string_view::npos)
             timecodes.set(i, Replace(timecodes[i], ",", "."));
         switch (form) {
         case Form::timecode:
-            body.append("[").append(timecodes[i]).append("]\t").append(captions[i]);
-            body.append(EndOfLine).append(EndOfLine);
+            body += '[';
+            body.append(timecodes[i])
+                .append("]\t")
+                .append(captions[i])
+                .append(EndOfLine)
+                .append(EndOfLine);
             break;
         case Form::paragraph:
-            body.append(" ").append(captions[i]);
+            body += ' ';
+            body += captions[i];
             break;
         case Form::line:
             body.append(captions[i]).append(EndOfLine);

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+namespace norvane {
+
+/// A block of memory that is filled from its start. Unlike a text, its room is not cleared first.
+class Bytes {
+  public:
+    Bytes() = default;
+    explicit Bytes(std::size_t room)
+        : data_(std::make_unique_for_overwrite<char[]>(room)), room_(room) {}
+
+    std::string_view view() const { return {data_.get(), size_}; }
+    std::size_t size() const { return size_; }
+
+    /// The room that is left behind what is filled, and its size.
+    char *rest() { return data_.get() + size_; }
+    std::size_t restSize() const { return room_ - size_; }
+
+    /// Counts `size` more bytes, at most the rest, as filled.
+    void fill(std::size_t size) { size_ += size; }
+    void clear() { size_ = 0; }
+
+    /// Makes the whole room `room` bytes, not less than what is filled.
+    void grow(std::size_t room) {
+        auto larger = std::make_unique_for_overwrite<char[]>(room);
+        if (size_ != 0)
+            std::memcpy(larger.get(), data_.get(), size_);
+        data_ = std::move(larger);
+        room_ = room;
+    }
+
+  private:
+    std::unique_ptr<char[]> data_; // NOLINT: memory that is not cleared
+    std::size_t size_ = 0;
+    std::size_t room_ = 0;
+};
+
+} // namespace norvane

@@ -60,7 +60,7 @@ void Window1::importSCCFolder() {
         DoTranscTimecodeFile();
         timeCodeArray.clear();
         sourceStream->Close();
-        sourceItem->Delete();
+        sourceItem->Delete(); // kept: whether or not its copy could be made
     }
 }
 

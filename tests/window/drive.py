@@ -1,0 +1,274 @@
+#!/usr/bin/env python3
+"""Drives the built program from outside: mouse and keys by xdotool on a virtual screen of its own,
+and what is on screen read the way a screen reader does. Takes the build folder. Needs Xvfb, openbox,
+xdotool, dbus-run-session, at-spi2-core and gdbus. Exits with 0 when all is as it must be."""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import time
+from urllib.parse import unquote
+
+# What shows, by its name for a screen reader: left, top, width, height.
+ALWAYS = {
+    "Select SCC File": (439, 102, 127, 22), "Include Timecode": (184, 110, 146, 20),
+    "Line by line form": (184, 47, 132, 20), "Paragraph form": (184, 78, 127, 20),
+    "Output text file settings:": (183, 14, 141, 20), "Unbuffered timecode": (184, 148, 161, 20),
+    "Keep SCC timecode": (184, 180, 153, 20), "Help on keeping the SCC timecode": (349, 180, 18, 16),
+    "Help on unbuffered timecode": (349, 148, 17, 16), "Norvane": (20, 24, 128, 128),
+    "Select Folder": (439, 63, 127, 22), "Watch Folder": (28, 245, 100, 20),
+    "Watch folder settings": (13, 250, 10, 10), "Help on the watch folder": (115, 247, 17, 16),
+    "Select either a folder of\nfiles or a file to decode:": (443, 32, 118, 28),
+    "Troubleshooting": (439, 179, 122, 22),
+}
+UNFOLDED = {
+    "Decode Watch Folder Files": (20, 289, 231, 20), "Watch folder": (143, 321, 344, 22),
+    "Watch Folder:": (54, 321, 100, 20), "Destination folder": (143, 353, 344, 22),
+    "Destination Folder:": (21, 353, 126, 20), "Browse for the watch folder": (499, 320, 67, 22),
+    "Browse for the destination folder": (499, 351, 67, 22), "minutes.": (507, 290, 59, 20),
+    "Check for files every": (323, 290, 135, 20),
+    "Minutes between two checks for files": (457, 289, 40, 22),
+}
+# These are as wide as their captions, at most as the table says.
+CHECKABLE = {"Include Timecode", "Line by line form", "Paragraph form", "Unbuffered timecode",
+             "Keep SCC timecode", "Decode Watch Folder Files"}
+HELP = {
+    "Help on unbuffered timecode":
+        "This option gives you the more accurate start time since the SCC format builds in a buffer "
+        "time of about 1 frame per 4-digit code prior to the caption's actual start time. The "
+        "timecode will be displayed in hundredths of a second.",
+    "Help on keeping the SCC timecode":
+        "This option will leave the SCC timecode the way it is in frames. You may want to use this "
+        "if you are attempting to troubleshoot an SCC file that has errors, for example.",
+    "Help on the watch folder":
+        "If you designate a folder to watch, Norvane will keep checking the folder and will decode "
+        "any files it finds in that folder at the given number of minutes. Click the triangle for "
+        "settings and to activate this feature.",
+}
+SAMPLE = ("Scenarist_SCC V1.0\n\n"
+          "00:00:02:10\t9420 9420 94ae 94ae 9470 9470 c845 4c4c 4f80 942f 942f\n\n"
+          "00:00:05;00\t9420 9420 94ae 94ae 9137 9137 57ef f26c 6480 1c20 942f 942f\n")
+
+
+def wait_for(what, condition):
+    """The first true value of the condition; fails when there is none within some seconds."""
+    end = time.monotonic() + 10
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.05)
+    sys.exit(f"FAILED: {what}")
+
+
+def check(what, actual, expected):
+    if actual != expected:
+        sys.exit(f"FAILED: {what}\n  is       {actual!r}\n  must be  {expected!r}")
+
+
+def output(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=False).stdout.strip()
+
+
+def xdotool(*arguments):
+    return output("xdotool", *map(str, arguments))
+
+
+class Node:
+    """Something on screen, as the accessibility bus tells of it."""
+
+    bus = ""
+
+    def __init__(self, owner, path):
+        self.owner, self.path = owner, path
+
+    def call(self, method, *arguments):
+        return output("gdbus", "call", "--address", Node.bus, "--dest", self.owner, "--object-path",
+                      self.path, "--method", "org.a11y.atspi." + method, *arguments)
+
+    def children(self):
+        found = re.findall(r"\('(:[\d.]+)', (?:objectpath )?'([^']+)'\)",
+                           self.call("Accessible.GetChildren"))
+        return [Node(*child) for child in found]
+
+    def name(self):
+        text = output("gdbus", "call", "--address", Node.bus, "--dest", self.owner, "--object-path",
+                      self.path, "--method", "org.freedesktop.DBus.Properties.Get",
+                      "org.a11y.atspi.Accessible", "Name")
+        match = re.fullmatch(r"""\(<(['"])(.*)\1>,\)""", text)
+        return match.group(2).replace("\\n", "\n").replace("\\'", "'") if match else ""
+
+    def place(self):
+        numbers = re.findall(r"-?\d+", self.call("Component.GetExtents", "0").replace("uint32", ""))
+        return tuple(int(number) for number in numbers)
+
+    def shows(self):
+        states = int(re.search(r"\d+", self.call("Accessible.GetState").replace("uint32", "")).group())
+        return bool(states & 1 << 25)
+
+
+def windows():
+    roots = Node("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root").children()
+    return [window for root in roots for window in root.children()]
+
+
+class Program:
+    """The program from its start to its end."""
+
+    def __init__(self, executable):
+        self.process = subprocess.Popen([executable])
+        self.window = wait_for("the window comes up",
+                               lambda: xdotool("search", "--onlyvisible", "--name", "^Norvane$"))
+        self.node = wait_for("the window can be read", windows)[0]
+        self.menu_bar = wait_for("the menu bar has its height", lambda: self.geometry()[1] - 281)
+
+    def geometry(self):
+        size = re.search(r"(\d+)x(\d+)", xdotool("getwindowgeometry", self.window))
+        return int(size.group(1)), int(size.group(2))
+
+    def controls(self):
+        """What shows below the menu bar, by name."""
+        area = self.node.children()[-1]
+        if not area.children():
+            area = self.node.children()[0]
+        origin_left, origin_top = self.node.place()[:2]
+        places = {}
+        for node in area.children():
+            name = node.name()
+            if not name or not node.shows():
+                continue
+            left, top, width, height = node.place()
+            if name in CHECKABLE:
+                width = max(width, {**ALWAYS, **UNFOLDED}[name][2])
+            places[name] = (left - origin_left, top - origin_top - self.menu_bar, width, height)
+        return places
+
+    def click(self, name):
+        left, top, width, height = {**ALWAYS, **UNFOLDED}[name]
+        xdotool("mousemove", "--window", self.window, left + min(width, 24) // 2,
+                top + height // 2 + self.menu_bar, "click", 1)
+
+    def dialog(self, title):
+        """The dialog of this title that is up."""
+        return wait_for(f"a dialog {title}", lambda: next(
+            (window for window in windows()
+             if window.path != self.node.path and window.name() == title and window.shows()), None))
+
+    def no_dialog(self):
+        wait_for("the dialog closes", lambda: sum(window.shows() for window in windows()) == 1)
+
+    def decode(self, source, target):
+        self.click("Select SCC File")
+        self.dialog("Open")
+        xdotool("type", source)
+        xdotool("key", "Return")
+        self.dialog("Save")
+        xdotool("key", "ctrl+a")
+        xdotool("type", target)
+        xdotool("key", "Return")
+        self.no_dialog()
+
+    def choose_about(self):
+        xdotool("key", "alt+f")
+        xdotool("key", "Down", "Return")
+        return wait_for("the About window", lambda: xdotool("search", "--onlyvisible", "--name",
+                                                            "^About Norvane$"))
+
+    def ends(self):
+        check("exit status", self.process.wait(timeout=10), 0)
+
+
+def look(program):
+    check("controls of the folded window", program.controls(), ALWAYS)
+    program.click("Watch folder settings")
+    wait_for("the window unfolds", lambda: program.geometry() == (586, 395 + program.menu_bar))
+    check("controls of the unfolded window", program.controls(), {**ALWAYS, **UNFOLDED})
+    program.click("Watch folder settings")
+    wait_for("the window folds", lambda: program.geometry() == (586, 281 + program.menu_bar))
+    for button, text in HELP.items():
+        program.click(button)
+        names = [node.name() for node in program.dialog("Norvane").children()]
+        check("help box", text in names and text or names, text)
+        xdotool("key", "Escape")
+        program.no_dialog()
+
+
+def transcribe(program, companion, folder, opened):
+    source = folder / "talk.scc"
+    source.write_text(SAMPLE)
+    for click, form, clock in ((None, "timecode", "unbuffered"),
+                               ("Keep SCC timecode", "timecode", "scc"),
+                               ("Include Timecode", "line", "scc"),
+                               ("Paragraph form", "paragraph", "scc"),
+                               ("Line by line form", "timecode", "scc"),
+                               ("Unbuffered timecode", "timecode", "unbuffered")):
+        if click:
+            program.click(click)
+        target = folder / f"{click}.txt"
+        program.decode(source, target)
+        printed = subprocess.run([companion, "--form", form, "--clock", clock, source],
+                                 capture_output=True, check=True).stdout
+        check(f"transcript, {form}, {clock}", target.read_bytes(), printed)
+        wait_for("the transcript is opened",
+                 lambda: unquote(opened.read_text()) == f"file://{target}\n")
+
+
+def main(build):
+    folder = pathlib.Path(os.environ["XDG_CONFIG_HOME"])
+    opened = folder / "opened"
+    opened.touch()
+    opener = folder / "xdg-open" # stands in for the desktop's own
+    opener.write_text(f'#!/bin/sh\nprintf "%s\\n" "$1" > "{opened}"\n')
+    opener.chmod(0o755)
+    os.environ["PATH"] = f"{folder}:{os.environ['PATH']}"
+
+    program = Program(f"{build}/shell/norvane")
+    look(program)
+    transcribe(program, f"{build}/command/norvane-transcript", folder, opened)
+    program.click("Troubleshooting")
+    wait_for("the help article is opened", lambda: opened.read_text().strip().endswith("help.html"))
+    first = program.choose_about()
+    check("the second About window", program.choose_about(), first)
+    xdotool("key", "ctrl+q")
+    program.ends()
+    check("preferences written", (folder / "com.bellwick.norvane.prefs").exists(), True)
+
+    again = Program(f"{build}/shell/norvane")
+    xdotool("key", "alt+f")
+    xdotool("key", "Return")
+    again.ends()
+    print("window: all as it must be")
+
+
+def on_own_screen(build):
+    """Runs main on a screen, a bus and a configuration of its own."""
+    with tempfile.TemporaryDirectory() as folder:
+        os.environ.update(XDG_CONFIG_HOME=folder, XDG_CACHE_HOME=folder, XDG_RUNTIME_DIR=folder,
+                          HOME=folder, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
+                          QT_SCALE_FACTOR="1")
+        reading, writing = os.pipe()
+        screen = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1000x24"],
+                                  pass_fds=[writing], stderr=subprocess.DEVNULL)
+        manager = None
+        try:
+            os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
+            manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
+            wait_for("the window manager", lambda: xdotool("get_desktop"))
+            address = output("gdbus", "call", "--session", "--dest", "org.a11y.Bus", "--object-path",
+                             "/org/a11y/bus", "--method", "org.a11y.Bus.GetAddress")
+            Node.bus = address.removeprefix("('").removesuffix("',)")
+            main(build)
+        finally:
+            for process in (manager, screen):
+                if process:
+                    process.terminate()
+                    process.wait()
+
+
+if __name__ == "__main__":
+    if "--on-bus" not in sys.argv:
+        os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv, "--on-bus"])
+    on_own_screen(sys.argv[1])

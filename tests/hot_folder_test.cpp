@@ -365,7 +365,7 @@ TEST_F(HotFolder, TheSwitchAndItsTimer) {
 }
 
 TEST_F(HotFolder, TheCommandThatSwitchesTheWatch) {
-    const auto command = [this] { App::the().menuCommand("FileEnableHotFolder"); };
+    const auto command = [] { App::the().menuCommand("FileEnableHotFolder"); };
     window();
     desktop.takeLog();
     desktop.answerFolder(folder.item("watch"));

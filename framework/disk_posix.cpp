@@ -10,7 +10,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
-#include <pwd.h>
 #include <random>
 #include <set>
 #include <sys/file.h>
@@ -66,15 +65,6 @@ std::string behindLinks(std::string path) {
 std::string environment(const char *name) {
     const char *value = std::getenv(name);
     return value == nullptr ? "" : value;
-}
-
-std::string homeFolder() {
-    std::string home = environment("HOME");
-    if (home.empty()) {
-        const passwd *user = getpwuid(getuid());
-        home = user == nullptr ? "" : user->pw_dir;
-    }
-    return home;
 }
 
 /// Removes the temporary files of writers that were killed, when it is first asked for a folder. A
@@ -145,13 +135,13 @@ bool remove(const std::string &path) {
 
 std::string preferencesFolder() {
 #ifdef __APPLE__
-    const std::string home = homeFolder();
+    const std::string home = environment("HOME");
     return home.empty() ? "" : home + "/Library/Preferences";
 #else
     const std::string configured = environment("XDG_CONFIG_HOME");
     if (configured.starts_with('/'))
         return configured;
-    const std::string home = homeFolder();
+    const std::string home = environment("HOME");
     return home.empty() ? "" : home + "/.config";
 #endif
 }

@@ -1,0 +1,31 @@
+#include "framework/headless/headless_desktop.h"
+#include "shell/window1.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+/// Any bytes as the preference file of a start and an end of the program. Whatever comes of it is saved,
+/// and a second start finds the program in the same state.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    using namespace norvane;
+    static const std::string folder = [] {
+        std::string pattern = (std::filesystem::temp_directory_path() / "norvane-fuzz-XXXXXX").string();
+        setenv("XDG_CONFIG_HOME", mkdtemp(pattern.data()), 1);
+        return pattern;
+    }();
+    std::ofstream(folder + "/com.bellwick.norvane.prefs", std::ios::binary)
+        .write(reinterpret_cast<const char *>(data), static_cast<std::streamsize>(size));
+    HeadlessDesktop desktop;
+    std::string interval[2];
+    for (std::string &text : interval) {
+        Window1 &window = Window1::the();
+        text = window.timerText.Text;
+        window.CheckBox1.Value = false; // the watch of a second start would run a cycle
+        window.Close();
+    }
+    if (interval[0] != interval[1])
+        std::abort();
+    return 0;
+}

@@ -1,7 +1,6 @@
 #include "decode/crossing_keys.h"
 
-#include "decode/chain_table.h"
-#include "framework/text.h"
+#include "decode/rows_of_code.h"
 
 #include <string_view>
 
@@ -24,43 +23,40 @@ struct Beginning {
     constexpr Beginning with(unsigned digit) const { return {value * 16 + digit, digits + 1}; }
 };
 
-struct Trie {
-    std::array<Beginning, CrossingKeys::kStates> beginnings{};
-    State count = 1; // the first is the empty one
-    std::array<Beginning, kChainRows> keys{};
-    std::size_t keyCount = 0;
+/// Whether digits are a key of a row behind the deletion of the blanks.
+constexpr bool isKey(const Beginning &digits) {
+    if (digits.digits == 2)
+        return digits.value == 0x80;
+    std::size_t row = digits.digits == 4 ? kRowsOfCode.first[digits.value] : 0;
+    while (row != 0 && row < kBlanksRow)
+        row = kRowsOfCode.next[row];
+    return row != 0;
+}
 
-    constexpr bool isKey(const Beginning &digits) const {
-        for (std::size_t i = 0; i < keyCount; ++i) {
-            if (keys.at(i) == digits)
-                return true;
-        }
-        return false;
-    }
+struct Trie {
+    std::array<Beginning, CrossingKeys::kMatch> beginnings{};
+    State count = 1; // the first is the empty one
 
     /// The state of a beginning, or kMatch when there is none such.
     constexpr State stateOf(const Beginning &digits) const {
         for (State state = 0; state < count; ++state) {
-            if (beginnings.at(state) == digits)
+            if (beginnings[state] == digits)
                 return state;
         }
         return CrossingKeys::kMatch;
     }
 
-    constexpr void addKey(std::string_view key) {
+    constexpr void addBeginningsOf(std::string_view key) {
         Beginning digits;
-        for (std::size_t i = 0; i < key.size(); ++i) {
+        for (const char digit : key) {
             if (stateOf(digits) == CrossingKeys::kMatch)
                 beginnings.at(count++) = digits;
-            if (count == CrossingKeys::kMatch)
-                throw "the keys have more beginnings than there are states";
-            digits = digits.with(static_cast<unsigned>(hexDigitValue(key[i])));
+            digits = digits.with(static_cast<unsigned>(hexDigitValue(digit)));
         }
-        keys.at(keyCount++) = digits;
     }
 
     constexpr State next(State state, unsigned digit) const {
-        const Beginning read = beginnings.at(state).with(digit);
+        const Beginning read = beginnings[state].with(digit);
         for (unsigned size = read.digits; size > 0; --size) {
             if (isKey(read.last(size)))
                 return CrossingKeys::kMatch;
@@ -77,20 +73,22 @@ struct Trie {
 constexpr CrossingKeys kDerived = [] {
     Trie trie;
     for (std::size_t row = kBlanksRow + 1; row <= kLastWalkedRow; ++row) {
-        const std::string_view key = kReplacementChain.at(row - 1).key;
+        const std::string_view key = kReplacementChain[row - 1].key;
         if (hexDigitValue(key[0]) >= 0)
-            trie.addKey(key);
+            trie.addBeginningsOf(key);
     }
     CrossingKeys keys;
-    for (State state = 0; state < CrossingKeys::kStates; ++state) {
+    for (auto &digits : keys.digit)
+        digits.fill(CrossingKeys::kMatch);
+    for (auto &bytes : keys.byte)
+        bytes.fill(CrossingKeys::kMatch);
+    for (State state = 0; state < trie.count; ++state) {
         for (unsigned digit = 0; digit < 16; ++digit)
-            keys.digit.at(state).at(digit) =
-                state < trie.count ? trie.next(state, digit) : CrossingKeys::kMatch;
+            keys.digit[state][digit] = trie.next(state, digit);
     }
-    for (State state = 0; state < CrossingKeys::kStates; ++state) {
+    for (State state = 0; state < trie.count; ++state) {
         for (unsigned byte = 0; byte < 256; ++byte)
-            keys.byte.at(state).at(byte) =
-                keys.digit.at(keys.digit.at(state).at(byte / 16)).at(byte % 16);
+            keys.byte[state][byte] = keys.digit[keys.digit[state][byte / 16]][byte % 16];
     }
     return keys;
 }();

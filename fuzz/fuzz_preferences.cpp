@@ -6,12 +6,13 @@
 #include <filesystem>
 #include <fstream>
 
-/// Any bytes as the preference file of a start and an end of the program. Whatever comes of it is saved,
-/// and a second start finds the program in the same state.
+/// Any bytes as the preference file of a start and an end of the program. Whatever comes of it is
+/// saved, and a second start finds the program in the same state.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace norvane;
     static const std::string folder = [] {
-        std::string pattern = (std::filesystem::temp_directory_path() / "norvane-fuzz-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "norvane-fuzz-XXXXXX").string();
         setenv("XDG_CONFIG_HOME", mkdtemp(pattern.data()), 1);
         return pattern;
     }();

@@ -54,6 +54,45 @@ void captions(benchmark::State &state) {
 }
 BENCHMARK(captions)->Unit(benchmark::kMillisecond);
 
+/// Lines that cannot be taken word by word: no blanks between the words.
+void captionsWithoutBlanks(benchmark::State &state) {
+    HexTexts lines(1000);
+    for (std::string &text : lines.texts)
+        std::erase(text, ' ');
+    for (auto _ : state) {
+        for (const std::string &text : lines.texts) {
+            std::string caption;
+            appendCaption(caption, text);
+            benchmark::DoNotOptimize(caption);
+        }
+    }
+    count(state, lines);
+}
+BENCHMARK(captionsWithoutBlanks)->Unit(benchmark::kMillisecond);
+
+// Texts that could cost more than their length: each at a size and at four times that size.
+
+void oneLine(benchmark::State &state, const std::string &piece) {
+    std::string text;
+    while (text.size() < static_cast<std::size_t>(state.range(0)))
+        text += piece;
+    for (auto _ : state) {
+        std::string caption;
+        appendCaption(caption, text);
+        cleanTranscript(caption);
+        benchmark::DoNotOptimize(caption);
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+}
+constexpr std::int64_t kMega = 1'000'000;
+BENCHMARK_CAPTURE(oneLine, ordinaryWords, "9420 9470 c8e5 ecec ef80 ")->Arg(10 * kMega)->Arg(40 * kMega);
+BENCHMARK_CAPTURE(oneLine, wordsThatCross, "c8e5 4649 454c c480 ")->Arg(kMega)->Arg(4 * kMega);
+BENCHMARK_CAPTURE(oneLine, bars, "|")->Arg(10'000)->Arg(40'000);
+BENCHMARK_CAPTURE(oneLine, oneKey, "9420")->Arg(kMega)->Arg(4 * kMega);
+BENCHMARK_CAPTURE(oneLine, keysMadeByDeletion, "949420209480ae9194ae31")->Arg(kMega)->Arg(4 * kMega);
+BENCHMARK_CAPTURE(oneLine, beginningsOfKeys, "9")->Arg(kMega)->Arg(4 * kMega);
+BENCHMARK_CAPTURE(oneLine, accents, "13b9ad")->Arg(kMega)->Arg(4 * kMega);
+
 /// From the bytes of a file in memory to the bytes of its transcript, which go nowhere.
 void fileToTranscript(benchmark::State &state) {
     class Nowhere : public TextSink {

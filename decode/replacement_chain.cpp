@@ -50,17 +50,18 @@ Rows rowsThatOccur(std::string_view text) {
 
 } // namespace
 
-// A row whose key does not occur does nothing. Only a row that ran can bring keys about, in what it
-// put in (bars) or where a deletion joined what it parted, so the text is looked at again after
-// each.
+// A row whose key does not occur does nothing. Only a row that ran can bring keys about: where a deletion
+// joined what it parted, or in a bar or blank that it put in; the text is looked at again behind those.
 std::string replaceCodeWords(std::string_view hexText) {
     std::string text(hexText);
     Rows rows = rowsThatOccur(text);
     for (std::size_t row = kFirst; row < kLastWalkedRow; ++row) {
         if (!rows.test(row))
             continue;
-        text = ReplaceAll(text, kReplacementChain[row].key, kReplacementChain[row].with);
-        rows = rowsThatOccur(text);
+        const auto &[key, with] = kReplacementChain[row];
+        text = ReplaceAll(text, key, with);
+        if (with.empty() || with.find_first_of("| ") != std::string_view::npos)
+            rows = rowsThatOccur(text);
     }
     return text;
 }

@@ -27,7 +27,7 @@ std::optional<std::uint32_t> roundedProduct(double value, std::size_t decimals) 
     const double rest = product - whole;
     if (std::abs(rest - 0.5) < 1e-6)
         return {};
-    return rest > 0.5 ? whole + 1 : whole;
+    return whole + static_cast<std::uint32_t>(rest > 0.5); // no branch: nobody can guess it
 }
 
 namespace {

@@ -18,6 +18,13 @@ Qt::Alignment horizontal(Alignment alignment) {
 
 QWidget *makeTextField(TextField &field, QWidget *parent) {
     auto *widget = new QLineEdit(parent);
+    // A field that cannot be edited still tells something, which many themes make too pale to read.
+    constexpr float kOpacity = 0.65F;
+    QColor colour = widget->palette().color(QPalette::Active, QPalette::Text);
+    colour.setAlphaF(kOpacity);
+    QPalette palette;
+    palette.setColor(QPalette::Disabled, QPalette::Text, colour);
+    widget->setPalette(palette);
     widget->setAlignment(horizontal(field.alignment) | Qt::AlignVCenter);
     follow(field.Text, widget, [&field, widget] {
         const QString text = toQt(field.Text);

@@ -118,12 +118,22 @@ def windows():
 class Program:
     """The program from its start to its end."""
 
-    def __init__(self, executable):
+    def __init__(self, executable, message=None):
+        """`message` is what a box says ahead of the window."""
         self.process = subprocess.Popen([executable])
-        self.window = wait_for("the window comes up",
-                               lambda: xdotool("search", "--onlyvisible", "--name", "^Norvane$"))
+        self.window, self.node = "", Node("", "")
+        if message:
+            box = self.dialog("Norvane")
+            check("box ahead of the window", message in [node.name() for node in box.children()], True)
+            xdotool("key", "Escape")
+        self.window = wait_for("the window comes up", self.find_window)
         self.node = wait_for("the window can be read", windows)[0]
         self.menu_bar = wait_for("the menu bar has its height", lambda: self.geometry()[1] - 281)
+
+    @staticmethod
+    def find_window():
+        found = xdotool("search", "--onlyvisible", "--name", "^Norvane$").split()
+        return next((window for window in found if "586x" in xdotool("getwindowgeometry", window)), None)
 
     def geometry(self):
         size = re.search(r"(\d+)x(\d+)", xdotool("getwindowgeometry", self.window))
@@ -152,7 +162,10 @@ class Program:
                 top + height // 2 + self.menu_bar, "click", 1)
 
     def dialog(self, title):
-        """The dialog of this title that is up."""
+        """The dialog of this title, once it is up and takes keys."""
+        wait_for(f"the focus on a dialog {title}",
+                 lambda: xdotool("getactivewindow") not in ("", self.window) and
+                 xdotool("getactivewindow", "getwindowname") == title)
         return wait_for(f"a dialog {title}", lambda: next(
             (window for window in windows()
              if window.path != self.node.path and window.name() == title and window.shows()), None))
@@ -234,9 +247,13 @@ def main(build):
     check("the second About window", program.choose_about(), first)
     xdotool("key", "ctrl+q")
     program.ends()
-    check("preferences written", (folder / "com.bellwick.norvane.prefs").exists(), True)
+    settings = (folder / "com.bellwick.norvane.prefs").read_text().split()
+    check("preferences", settings, ["true", "true", "false", "true", "false", "15", "false"])
 
-    again = Program(f"{build}/shell/norvane")
+    watching = "true\ntrue\nfalse\ntrue\nfalse\n15\n\n\ntrue\n"
+    (folder / "com.bellwick.norvane.prefs").write_text(watching)
+    again = Program(f"{build}/shell/norvane", "You must choose both a watch folder and a destination "
+                    "folder to activate the timer.")
     xdotool("key", "alt+f")
     xdotool("key", "Return")
     again.ends()
@@ -250,13 +267,14 @@ def on_own_screen(build):
                           HOME=folder, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
                           QT_SCALE_FACTOR="1")
         reading, writing = os.pipe()
-        screen = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1000x24"],
+        screen = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-noreset", "-screen", "0",
+                                   "1280x1000x24"],
                                   pass_fds=[writing], stderr=subprocess.DEVNULL)
         manager = None
         try:
             os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
             manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
-            wait_for("the window manager", lambda: xdotool("get_desktop"))
+            wait_for("the window manager", lambda: xdotool("get_num_desktops") not in ("", "0"))
             address = output("gdbus", "call", "--session", "--dest", "org.a11y.Bus", "--object-path",
                              "/org/a11y/bus", "--method", "org.a11y.Bus.GetAddress")
             Node.bus = address.removeprefix("('").removesuffix("',)")

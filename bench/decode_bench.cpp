@@ -85,11 +85,15 @@ void oneLine(benchmark::State &state, const std::string &piece) {
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 constexpr std::int64_t kMega = 1'000'000;
-BENCHMARK_CAPTURE(oneLine, ordinaryWords, "9420 9470 c8e5 ecec ef80 ")->Arg(10 * kMega)->Arg(40 * kMega);
+BENCHMARK_CAPTURE(oneLine, ordinaryWords, "9420 9470 c8e5 ecec ef80 ")
+    ->Arg(10 * kMega)
+    ->Arg(40 * kMega);
 BENCHMARK_CAPTURE(oneLine, wordsThatCross, "c8e5 4649 454c c480 ")->Arg(kMega)->Arg(4 * kMega);
 BENCHMARK_CAPTURE(oneLine, bars, "|")->Arg(10'000)->Arg(40'000);
 BENCHMARK_CAPTURE(oneLine, oneKey, "9420")->Arg(kMega)->Arg(4 * kMega);
-BENCHMARK_CAPTURE(oneLine, keysMadeByDeletion, "949420209480ae9194ae31")->Arg(kMega)->Arg(4 * kMega);
+BENCHMARK_CAPTURE(oneLine, keysMadeByDeletion, "949420209480ae9194ae31")
+    ->Arg(kMega)
+    ->Arg(4 * kMega);
 BENCHMARK_CAPTURE(oneLine, beginningsOfKeys, "9")->Arg(kMega)->Arg(4 * kMega);
 BENCHMARK_CAPTURE(oneLine, accents, "13b9ad")->Arg(kMega)->Arg(4 * kMega);
 

@@ -40,7 +40,9 @@ void CommandDesktop::message(const std::string &text) {
 }
 
 // A decode of one file ends by opening its transcript.
-void CommandDesktop::launch(const std::string & /*path*/, bool /*activate*/) { written_ = true; }
+void CommandDesktop::launch(const std::string & /*path*/, bool /*activate*/) {
+    written_ = true;
+}
 
 void CommandDesktop::followProgress(ProgressBar &bar) {
     if (isatty(STDERR_FILENO) != 0)
@@ -62,6 +64,8 @@ void CommandDesktop::clearProgress() {
     shownPercent_ = -1;
 }
 
-Ref<FolderItem> standardOutput() { return Ref<FolderItem>(std::make_shared<StandardOutputItem>()); }
+Ref<FolderItem> standardOutput() {
+    return Ref<FolderItem>(std::make_shared<StandardOutputItem>());
+}
 
 } // namespace norvane

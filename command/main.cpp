@@ -40,7 +40,8 @@ Ref<FolderItem> target(const std::string &file, const Options &options) {
     return item;
 }
 
-/// Decodes one file in a window of its own, so that nothing passes to the next. False when it failed.
+/// Decodes one file in a window of its own, so that nothing passes to the next. False when it
+/// failed.
 bool transcribe(const std::string &file, const Options &options) {
     CommandDesktop desktop(file);
     guarded([&] {

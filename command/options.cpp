@@ -64,14 +64,17 @@ Options readOptions(const std::vector<std::string> &arguments) {
             return wrong("unknown option '" + argument + "'");
         if (equals == std::string::npos && i + 1 == arguments.size())
             return wrong("option '" + name + "' needs a value");
-        const std::string value = equals == std::string::npos ? arguments[++i] : argument.substr(equals + 1);
+        const std::string value =
+            equals == std::string::npos ? arguments[++i] : argument.substr(equals + 1);
         if (name == "--form" && value != "timecode" && value != "line" && value != "paragraph")
             return wrong("'" + value + "' is no form; there are timecode, line and paragraph");
         if (name == "--clock" && value != "unbuffered" && value != "scc")
             return wrong("'" + value + "' is no clock; there are unbuffered and scc");
         if (value.empty())
             return wrong("option '" + name + "' needs a value");
-        (name == "--form" ? options.form : name == "--clock" ? options.clock : options.outputFolder) = value;
+        (name == "--form"    ? options.form
+         : name == "--clock" ? options.clock
+                             : options.outputFolder) = value;
     }
     return options.files.empty() ? wrong("no file was named") : options;
 }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
@@ -13,7 +12,6 @@
 #include <random>
 #include <set>
 #include <sys/file.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -83,20 +81,6 @@ void removeLeftovers(const std::string &folder) {
         if (handle >= 0)
             close(handle);
     }
-}
-
-/// Asks for large pages under a large block of memory, which saves a good part of the time that the
-/// system takes to hand it out.
-void adviseLargePages([[maybe_unused]] Bytes &bytes) {
-#ifdef MADV_HUGEPAGE
-    constexpr std::size_t kLargePage = std::size_t{2} << 20U;
-    constexpr std::size_t kPage = 4096;
-    if (bytes.restSize() >= 2 * kLargePage) {
-        const auto start = reinterpret_cast<std::uintptr_t>(bytes.rest()); // NOLINT: an address
-        const std::size_t skipped = (kPage - start % kPage) % kPage;
-        madvise(bytes.rest() + skipped, bytes.restSize() - skipped, MADV_HUGEPAGE);
-    }
-#endif
 }
 
 } // namespace
@@ -198,7 +182,6 @@ bool InputFile::readSome(Bytes &bytes) {
 Bytes InputFile::readAll() {
     constexpr std::size_t kLeastRest = 4096;
     Bytes bytes(size_ + kLeastRest); // the end shows in a read of nothing, which needs room too
-    adviseLargePages(bytes);
     while (readSome(bytes)) {
         if (bytes.restSize() == 0) // it has grown since
             bytes.grow(2 * bytes.size());

@@ -46,10 +46,11 @@ bool Window1::decodeLines(TextInputStream &stream) {
         if (!patternRegEx.Search(lineArray[i]))
             return stopAtBadLine("There does not appear to be any timecode in this file.");
         const auto tab = tabRegEx.Search(lineArray[i]);
-        if (!tab)
+        if (!tab) {
             return stopAtBadLine(
                 "This SCC file does not appear to be formatted correctly. It needs to "
                 "have a tab between the timecode and the hexidecimal caption code.");
+        }
         // Of the fields between tabs, only two count.
         const std::string_view timecode = lineArray[i].substr(0, tab->start);
         const std::string_view behind = lineArray[i].substr(tab->start + 1);

@@ -202,8 +202,8 @@ constexpr std::array<unsigned char, 256> kRowOfByte = [] {
     std::array<unsigned char, 256> rows{};
     for (std::size_t row = kLetters.size(); row > 0; --row) {
         const std::string_view key = kLetters.at(row - 1).key;
-        rows.at(static_cast<std::size_t>(hexDigitValue(key[0]) * 16 + hexDigitValue(key[1]))) =
-            static_cast<unsigned char>(row);
+        const int byte = hexDigitValue(key[0]) * 16 + hexDigitValue(key[1]);
+        rows.at(static_cast<std::size_t>(byte)) = static_cast<unsigned char>(row);
     }
     return rows;
 }();

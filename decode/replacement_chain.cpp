@@ -50,8 +50,9 @@ Rows rowsThatOccur(std::string_view text) {
 
 } // namespace
 
-// A row whose key does not occur does nothing. Only a row that ran can bring keys about: where a deletion
-// joined what it parted, or in a bar or blank that it put in; the text is looked at again behind those.
+// A row whose key does not occur does nothing. Only a row that ran can bring keys about: where a
+// deletion joined what it parted, or in a bar or blank that it put in; the text is looked at again
+// behind those.
 std::string replaceCodeWords(std::string_view hexText) {
     std::string text(hexText);
     Rows rows = rowsThatOccur(text);

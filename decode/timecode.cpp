@@ -23,11 +23,12 @@ std::array<double, count> fieldsOf(std::string_view timecode) {
     std::string_view rest = timecode;
     for (std::size_t field = 0; field < count; ++field) {
         const std::size_t colon = std::min(rest.find(':'), rest.size());
-        fields[field] = Val(rest.substr(0, colon));
-        if (colon == rest.size() && field + 1 < count)
+        if (colon == rest.size() && field + 1 < count) {
             throw OutOfBoundsException("the timecode “" + std::string(timecode) +
                                        "” has fewer than " + (count == 4 ? "four" : "three") +
                                        " fields.");
+        }
+        fields[field] = Val(rest.substr(0, colon));
         rest.remove_prefix(std::min(colon + 1, rest.size()));
     }
     return fields;

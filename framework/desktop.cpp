@@ -13,7 +13,9 @@ Desktop::~Desktop() {
         currentDesktop = nullptr;
 }
 
-bool Desktop::exists() { return currentDesktop != nullptr; }
+bool Desktop::exists() {
+    return currentDesktop != nullptr;
+}
 
 Desktop &Desktop::current() {
     if (currentDesktop == nullptr)
@@ -21,9 +23,13 @@ Desktop &Desktop::current() {
     return *currentDesktop;
 }
 
-void Desktop::setCurrent(Desktop &desktop) { currentDesktop = &desktop; }
+void Desktop::setCurrent(Desktop &desktop) {
+    currentDesktop = &desktop;
+}
 
-void MsgBox(const std::string &text) { Desktop::current().message(text); }
+void MsgBox(const std::string &text) {
+    Desktop::current().message(text);
+}
 
 Ref<FolderItem> GetOpenFolderItem(const std::string &fileType) {
     return Desktop::current().chooseFile(fileType);
@@ -33,8 +39,12 @@ Ref<FolderItem> GetSaveFolderItem(const std::string &fileType, const std::string
     return Desktop::current().chooseSaveFile(fileType, defaultName);
 }
 
-Ref<FolderItem> SelectFolder() { return Desktop::current().chooseFolder(); }
+Ref<FolderItem> SelectFolder() {
+    return Desktop::current().chooseFolder();
+}
 
-void ShowURL(const std::string &address) { Desktop::current().showURL(address); }
+void ShowURL(const std::string &address) {
+    Desktop::current().showURL(address);
+}
 
 } // namespace norvane

@@ -29,13 +29,14 @@ class Desktop {
     /// Tells the user of a failure that ended an action.
     virtual void failure(const std::string &text) { message(text); }
     virtual Ref<FolderItem> chooseFile(const std::string &fileType) = 0;
-    virtual Ref<FolderItem> chooseSaveFile(const std::string &fileType, const std::string &defaultName) = 0;
+    virtual Ref<FolderItem> chooseSaveFile(const std::string &fileType,
+                                           const std::string &defaultName) = 0;
     virtual Ref<FolderItem> chooseFolder() = 0;
     virtual void launch(const std::string &path, bool activate) = 0;
     virtual void showURL(const std::string &address) = 0;
 
-    /// A window's life: add before Event_Open, show any number of times, remove at the end. Removing
-    /// a window that is not there does nothing.
+    /// A window's life: add before Event_Open, show any number of times, remove at the end.
+    /// Removing a window that is not there does nothing.
     virtual void add(Window &window) = 0;
     virtual void show(Window &window) = 0;
     virtual void remove(Window &window) = 0;

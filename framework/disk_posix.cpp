@@ -74,7 +74,7 @@ void removeLeftovers(const std::string &folder) {
     for (const std::string &name : namesIn(folder)) {
         if (!name.starts_with(kTemporaryPrefix) || !name.ends_with(kTemporarySuffix))
             continue;
-        const std::string path = folder + "/" + name;
+        const std::string path = std::string(folder).append("/").append(name);
         const int handle = open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC);
         if (handle >= 0 && flock(handle, LOCK_EX | LOCK_NB) == 0)
             remove(path);
@@ -122,7 +122,7 @@ std::string preferencesFolder() {
     const std::string home = environment("HOME");
     return home.empty() ? "" : home + "/Library/Preferences";
 #else
-    const std::string configured = environment("XDG_CONFIG_HOME");
+    std::string configured = environment("XDG_CONFIG_HOME");
     if (configured.starts_with('/'))
         return configured;
     const std::string home = environment("HOME");

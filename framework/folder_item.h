@@ -11,8 +11,8 @@
 
 namespace norvane {
 
-/// A place in the file system, where something may or may not exist. Paths and names are UTF-8 text;
-/// names of other bytes pass unchanged.
+/// A place in the file system, where something may or may not exist. Paths and names are UTF-8
+/// text; names of other bytes pass unchanged.
 class FolderItem {
   public:
     virtual ~FolderItem() = default;
@@ -31,15 +31,15 @@ class FolderItem {
     /// True for a folder.
     bool Directory() const;
 
-    /// How many items the folder holds, hidden ones included; 0 when it is none or cannot be listed.
-    /// The listing is taken once, when Count or Item is first asked, and kept.
+    /// How many items the folder holds, hidden ones included; 0 when it is none or cannot be
+    /// listed. The listing is taken once, when Count or Item is first asked, and kept.
     std::size_t Count() const;
 
     /// The item of an index from 1 to Count, in the order of the names' bytes; nil outside.
     Ref<FolderItem> Item(std::size_t index) const;
 
-    /// What is named `name` in this folder, existing or not. Nil when this is no folder, or when the
-    /// name is empty, "." or "..", or holds a separator or a NUL.
+    /// What is named `name` in this folder, existing or not. Nil when this is no folder, or when
+    /// the name is empty, "." or "..", or holds a separator or a NUL.
     Ref<FolderItem> Child(std::string_view name) const;
 
     /// Makes the folder. Whether it worked is not told.
@@ -52,7 +52,8 @@ class FolderItem {
     /// Deletes the file. Whether it worked is not told.
     void Delete() const;
 
-    /// A stream whose text takes this item's place when it is closed; nil when it cannot be created.
+    /// A stream whose text takes this item's place when it is closed; nil when it cannot be
+    /// created.
     virtual Ref<TextOutputStream> CreateTextFile() const;
 
     /// A stream over the file's text; nil for whatever is no readable regular file.

@@ -5,8 +5,8 @@
 
 namespace norvane {
 
-/// A value that can be watched. An assignment that changes it first brings what is on screen in step
-/// and then raises the action; one that does not change it does nothing.
+/// A value that can be watched. An assignment that changes it first brings what is on screen in
+/// step and then raises the action; one that does not change it does nothing.
 template <class T>
 class Property {
   public:

@@ -16,9 +16,9 @@ class Ref {
     explicit Ref(std::shared_ptr<T> object) : object_(std::move(object)) {}
 
     /// A nil reference. `reason` is UTF-8 text for the user: what could not be had, and why.
-    static Ref nil(std::string reason) {
+    static Ref nil(const std::string &reason) {
         Ref none{nullptr};
-        none.reason_ = std::move(reason);
+        none.reason_ = reason;
         return none;
     }
 

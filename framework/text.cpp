@@ -18,7 +18,9 @@ constexpr char upper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
-bool isContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
+bool isContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
 
 template <class Finder>
 std::string replaceEvery(std::string_view text, std::string_view find, std::string_view with,
@@ -94,7 +96,8 @@ std::size_t findIgnoringCase(std::string_view text, std::string_view find, std::
     const char capital = upper(find[0]);
     for (; from + find.size() <= text.size(); ++from) {
         if (small == capital) {
-            const void *hit = std::memchr(text.data() + from, small, text.size() - find.size() + 1 - from);
+            const void *hit =
+                std::memchr(text.data() + from, small, text.size() - find.size() + 1 - from);
             if (hit == nullptr)
                 break;
             from = static_cast<std::size_t>(static_cast<const char *>(hit) - text.data());
@@ -126,7 +129,8 @@ std::size_t characterSize(std::string_view text) {
     if (first < 0xC2 || first > 0xF4)
         return 1;
     const std::size_t size = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-    if (text.size() < size || !std::all_of(text.begin() + 1, text.begin() + static_cast<long>(size), isContinuation))
+    if (text.size() < size ||
+        !std::all_of(text.begin() + 1, text.begin() + static_cast<long>(size), isContinuation))
         return 1;
     // The second byte's range keeps out overlong forms, surrogates and what lies above U+10FFFF.
     const auto second = static_cast<unsigned char>(text[1]);
@@ -142,8 +146,12 @@ bool isAscii(std::string_view text) {
     return all < 0x80;
 }
 
-std::string Chr(int code) { return {static_cast<char>(code)}; }
+std::string Chr(int code) {
+    return {static_cast<char>(code)};
+}
 
-double Floor(double value) { return std::floor(value); }
+double Floor(double value) {
+    return std::floor(value);
+}
 
 } // namespace norvane

@@ -20,24 +20,26 @@ inline constexpr std::string_view EndOfLine = "\n";
 #endif
 
 /// The leading number of `text`: sign, digits, fraction, exponent, as far as they go; 0 when it
-/// starts with none (a leading blank, "inf", "nan" and hex forms are none). A number too large for a
-/// double is infinite, one too small is 0.
+/// starts with none (a leading blank, "inf", "nan" and hex forms are none). A number too large for
+/// a double is infinite, one too small is 0.
 double Val(std::string_view text);
 
 /// `value` with at most seven significant digits, no trailing zeros, and an exponent when it is
-/// below 0.0001 or needs more than seven integer digits: "59.96667", "60", "1e+07". Infinity is "inf".
+/// below 0.0001 or needs more than seven integer digits: "59.96667", "60", "1e+07". Infinity is
+/// "inf".
 std::string Str(double value);
 
 /// `value` by a mask of digit places: "0", "00" (at least two integer digits), "00.00" (and exactly
-/// two decimals). Rounds to the nearest; a value halfway goes by its exact binary value, ties to even.
-/// The decimal mark is a point.
+/// two decimals). Rounds to the nearest; a value halfway goes by its exact binary value, ties to
+/// even. The decimal mark is a point.
 std::string Format(double value, std::string_view mask);
 
-/// The pieces of `text` between delimiters, at least one; with an empty delimiter one piece for each
-/// character, none for an empty text.
+/// The pieces of `text` between delimiters, at least one; with an empty delimiter one piece for
+/// each character, none for an empty text.
 TextArray Split(std::string_view text, std::string_view delimiter);
 
-/// `text` with the first occurrence of `find` replaced, ignoring case. An empty `find` changes nothing.
+/// `text` with the first occurrence of `find` replaced, ignoring case. An empty `find` changes
+/// nothing.
 std::string Replace(std::string_view text, std::string_view find, std::string_view with);
 
 /// `text` with every occurrence of `find` replaced, ignoring case: left to right, without overlap,

@@ -13,7 +13,8 @@ void TextArray::set(std::size_t index, std::string_view text) {
         piece.offset = bytes_.size();
         bytes_.append(text);
     } else {
-        std::copy(text.begin(), text.end(), bytes_.begin() + static_cast<std::ptrdiff_t>(piece.offset));
+        std::copy(text.begin(), text.end(),
+                  bytes_.begin() + static_cast<std::ptrdiff_t>(piece.offset));
     }
     piece.size = text.size();
 }
@@ -24,8 +25,8 @@ void TextArray::reserve(std::size_t texts, std::size_t bytes) {
 }
 
 void TextArray::failOutOfBounds(std::size_t index) const {
-    throw OutOfBoundsException("item " + std::to_string(index + 1) + " was needed of a list of only " +
-                               std::to_string(size()));
+    throw OutOfBoundsException("item " + std::to_string(index + 1) +
+                               " was needed of a list of only " + std::to_string(size()));
 }
 
 } // namespace norvane

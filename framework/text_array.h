@@ -14,8 +14,8 @@ class TextArray {
     std::size_t size() const { return pieces_.size(); }
     bool empty() const { return pieces_.empty(); }
 
-    /// The text at `index`; throws OutOfBoundsException past the end. The view holds until the array
-    /// is changed.
+    /// The text at `index`; throws OutOfBoundsException past the end. The view holds until the
+    /// array is changed.
     std::string_view operator[](std::size_t index) const {
         const Piece &piece = at(index);
         return {bytes_.data() + piece.offset, piece.size};

@@ -15,7 +15,9 @@ void Window::open() {
     guarded([this] { Event_Open(); });
 }
 
-void Window::Show() { Desktop::current().show(*this); }
+void Window::Show() {
+    Desktop::current().show(*this);
+}
 
 void Window::Close() {
     guarded([this] { Event_Close(); });

@@ -36,7 +36,8 @@ class Window {
 
     const std::vector<Control *> &controls() const { return controls_; }
 
-    /// Event_Open under the guard. Once, when all controls are there and before the window is shown.
+    /// Event_Open under the guard. Once, when all controls are there and before the window is
+    /// shown.
     void open();
 
     /// Puts the window on screen, or in front when it is there.

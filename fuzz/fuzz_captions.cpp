@@ -17,20 +17,32 @@ std::string captionOrFailure(Decode decode) {
     }
 }
 
-} // namespace
-
-/// Any bytes as a line's hex text: the plain walk and the product must agree.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    const std::string_view hexText(reinterpret_cast<const char *>(data), size);
+void compare(std::string_view hexText) {
     const std::string product = captionOrFailure([&] {
         std::string captions = "before";
         norvane::appendCaption(captions, hexText);
         return captions.substr(6);
     });
     const std::string plain = captionOrFailure([&] { return norvane::plain::caption(hexText); });
-    if (product != plain)
+    if (product != plain ||
+        norvane::replaceCodeWords(hexText) != norvane::plain::replaceCodeWords(hexText))
         std::abort();
-    if (norvane::replaceCodeWords(hexText) != norvane::plain::replaceCodeWords(hexText))
-        std::abort();
+}
+
+} // namespace
+
+/// Any bytes as a line's hex text, and as the bytes that its words stand for: the plain walk and
+/// the product must agree.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    compare({reinterpret_cast<const char *>(data), size});
+    std::string words;
+    for (std::size_t i = 0; i < size; ++i) {
+        constexpr std::string_view kDigits = "0123456789abcdef";
+        words += kDigits[data[i] / 16];
+        words += kDigits[data[i] % 16];
+        if (i % 2 == 1)
+            words += ' ';
+    }
+    compare(words);
     return 0;
 }

@@ -2,7 +2,8 @@
 
 build_packages='g++ cmake ninja-build'
 desktop_packages='qt6-base-dev qt6-base-dev-tools libgl1-mesa-dev libqt6svg6'
-test_packages='libgtest-dev libbenchmark-dev'
+test_packages='libgtest-dev libbenchmark-dev python3'
+check_packages='git clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool imagemagick fonts-dejavu-core python3 dbus at-spi2-core libglib2.0-bin'
 
 # need PACKAGE...: installs those that are missing.
 need() {

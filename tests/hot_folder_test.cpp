@@ -193,7 +193,7 @@ TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
     for (const auto &[make, problem] : rows) {
         make();
         input("b.scc", {hiLine("00:00:01:00")});
-        EXPECT_EQ(wait(), Lines{failed("“" + path + problem)});
+        EXPECT_EQ(wait(), Lines{failed(std::string("“").append(path).append(problem))});
         EXPECT_EQ(wait(), Lines{}) << "a failed cycle leaves the timer stopped";
         EXPECT_TRUE(std::filesystem::is_symlink(path) || std::filesystem::exists(path));
         EXPECT_TRUE(folder.has("watch/b.scc"));

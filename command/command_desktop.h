@@ -8,8 +8,8 @@
 
 namespace norvane {
 
-/// The desktop of one decode from a shell: messages go to standard error, and a progress line is kept
-/// there while a long decode runs on a terminal.
+/// The desktop of one decode from a shell: messages go to standard error, and a progress line is
+/// kept there while a long decode runs on a terminal.
 class CommandDesktop : public HeadlessDesktop {
   public:
     /// `file` is what the user called the file.

@@ -33,12 +33,13 @@ aboutWin::aboutWin() {
     add(Label1, "Label1", 165, 21, 372, 141);
     Label1.TextSize = 12;
     Label1.multiline = true;
-    Label1.Text = "Norvane version 1.6\r\r"
-                  "This application grew out of the need to troubleshoot Sonic Scenarist closed caption "
-                  "files and also to be able to easily create human-readable transcripts of movies from "
-                  "these files. \r"
-                  "Hope you find this application to be a useful tool!\r\r"
-                  "May every caption read the way it was spoken.\r";
+    Label1.Text =
+        "Norvane version 1.6\r\r"
+        "This application grew out of the need to troubleshoot Sonic Scenarist closed caption "
+        "files and also to be able to easily create human-readable transcripts of movies from "
+        "these files. \r"
+        "Hope you find this application to be a useful tool!\r\r"
+        "May every caption read the way it was spoken.\r";
 }
 
 } // namespace norvane

@@ -46,6 +46,8 @@ void _EarlyStartup() {
     App::the();
 }
 
-void _LateStartup() { Window1::the().Show(); }
+void _LateStartup() {
+    Window1::the().Show();
+}
 
 } // namespace norvane

@@ -13,17 +13,18 @@ class App : public Application {
     void Event_Open() override;
     void Event_EnableMenuItems() override;
 
-    // Menu handlers (shell/app.cpp; the watch's in folders/hot_folder_control.cpp). Each gives false.
+    // Menu handlers (shell/app.cpp; the watch's in folders/hot_folder_control.cpp). Each gives
+    // false.
     bool _FileNewWindow_Action();       // NOLINT: the names are those of the menu items
     bool _FileEnableHotFolder_Action(); // NOLINT
     bool _FileAboutNorvane_Action();    // NOLINT
 
-    /// Writes the nine settings of Window1 to the preference file. Throws NilObjectException when the
-    /// file cannot be created and IOException when it cannot be written.
+    /// Writes the nine settings of Window1 to the preference file. Throws NilObjectException when
+    /// the file cannot be created and IOException when it cannot be written.
     void SavePrefs();
 
-    /// Sets the controls of Window1 from the preference file, which raises their actions. Does nothing
-    /// without a readable file; what a short file lacks counts as empty.
+    /// Sets the controls of Window1 from the preference file, which raises their actions. Does
+    /// nothing without a readable file; what a short file lacks counts as empty.
     void GetPrefs();
 
   private:

@@ -13,7 +13,8 @@ std::string fileAddress(const std::string &path) {
     std::string address = "file://";
     for (const char c : path) {
         const auto byte = static_cast<unsigned char>(c);
-        const bool alphanumeric = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+        const bool alphanumeric =
+            (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
         if (alphanumeric || kPlain.find(c) != std::string_view::npos)
             address += c;
         else
@@ -29,7 +30,8 @@ std::string helpArticleAddress() {
     return NORVANE_HELP_ADDRESS;
 #else
     const std::string installed = disk::programFolder() + "/" NORVANE_HELP_FROM_PROGRAM;
-    return fileAddress(disk::kindOf(installed) == disk::Kind::file ? installed : NORVANE_HELP_SOURCE);
+    return fileAddress(disk::kindOf(installed) == disk::Kind::file ? installed
+                                                                   : NORVANE_HELP_SOURCE);
 #endif
 }
 

@@ -13,14 +13,16 @@
 
 namespace norvane {
 
-/// The program's one window and its state: the options, the folders, the timer, the progress display,
-/// and every mode of decoding as a method. Methods are defined in the folder of their subject.
+/// The program's one window and its state: the options, the folders, the timer, the progress
+/// display, and every mode of decoding as a method. Methods are defined in the folder of their
+/// subject.
 class Window1 : public Window {
   public:
     /// The window that exists; made, opened and not yet shown when there is none.
     static Window1 &the();
 
-    /// A window that nobody opened: the controls as designed, no preferences read, nothing on screen.
+    /// A window that nobody opened: the controls as designed, no preferences read, nothing on
+    /// screen.
     Window1();
 
     // Controls, in tab order.
@@ -59,8 +61,8 @@ class Window1 : public Window {
 
     /// The decoded text of each data line of the current file, in file order.
     TextArray captionArray2;
-    /// The timecode text of the data line at the same index. It outlives a run that stopped or whose
-    /// save dialog was cancelled, and then pairs with the captions of the next file.
+    /// The timecode text of the data line at the same index. It outlives a run that stopped or
+    /// whose save dialog was cancelled, and then pairs with the captions of the next file.
     TextArray timeCodeArray;
     std::string fileName;   // of the current file, with its extension
     std::string hotFolder;  // absolute path, ending in the separator; empty when none was chosen
@@ -96,8 +98,8 @@ class Window1 : public Window {
     void DoTranscTimecodeFileSingle();
     void DoTranscTimecodeFile();
 
-    /// Shows `message` and a folder dialog; the chosen folder goes into `folder` and its field. Throws
-    /// NilObjectException when the dialog is cancelled (folders/hot_folder_control.cpp).
+    /// Shows `message` and a folder dialog; the chosen folder goes into `folder` and its field.
+    /// Throws NilObjectException when the dialog is cancelled (folders/hot_folder_control.cpp).
     static void promptForFolder(const std::string &message, std::string &folder, TextField &field);
 
     // Text alone: see decode/timecode.h and decode/letters.h.

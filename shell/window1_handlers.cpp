@@ -14,17 +14,23 @@ void Window1::Event_Open() {
     App::the().GetPrefs();
     hotFolder = TextField1.Text;
     destFolder = TextField2.Text;
-    // Kept: a watch that the preferences switched on has had its first cycle by now and gets no ticks
-    // until the user switches it off and on.
+    // Kept: a watch that the preferences switched on has had its first cycle by now and gets no
+    // ticks until the user switches it off and on.
     Timer1.Enabled = false;
     readInterval();
 }
 
-void Window1::Event_Close() { App::the().SavePrefs(); }
+void Window1::Event_Close() {
+    App::the().SavePrefs();
+}
 
-void Window1::BevelButton1_Action() { importSCC(); }
+void Window1::BevelButton1_Action() {
+    importSCC();
+}
 
-void Window1::BevelButton4_Action() { importSCCFolderSingle(); }
+void Window1::BevelButton4_Action() {
+    importSCCFolderSingle();
+}
 
 // The three boxes set each other off: a box that is set in code raises its own handler. Turning
 // TimecodeBox off touches nothing else, which is how a user gets lines without timecodes.
@@ -56,20 +62,23 @@ void Window1::ParagraphBox_Action() {
 }
 
 void Window1::BevelButton2_Action() {
-    MsgBox("This option gives you the more accurate start time since the SCC format builds in a buffer "
+    MsgBox("This option gives you the more accurate start time since the SCC format builds in a "
+           "buffer "
            "time of about 1 frame per 4-digit code prior to the caption's actual start time. The "
            "timecode will be displayed in hundredths of a second.");
 }
 
 void Window1::BevelButton3_Action() {
-    MsgBox("This option will leave the SCC timecode the way it is in frames. You may want to use this "
-           "if you are attempting to troubleshoot an SCC file that has errors, for example.");
+    MsgBox(
+        "This option will leave the SCC timecode the way it is in frames. You may want to use this "
+        "if you are attempting to troubleshoot an SCC file that has errors, for example.");
 }
 
 void Window1::BevelButton8_Action() {
-    MsgBox("If you designate a folder to watch, Norvane will keep checking the folder and will decode "
-           "any files it finds in that folder at the given number of minutes. Click the triangle for "
-           "settings and to activate this feature.");
+    MsgBox(
+        "If you designate a folder to watch, Norvane will keep checking the folder and will decode "
+        "any files it finds in that folder at the given number of minutes. Click the triangle for "
+        "settings and to activate this feature.");
 }
 
 bool Window1::PopupArrow1_MouseDown() {
@@ -79,6 +88,8 @@ bool Window1::PopupArrow1_MouseDown() {
     return false;
 }
 
-void Window1::PushButton1_Action() { ShowURL(helpArticleAddress()); }
+void Window1::PushButton1_Action() {
+    ShowURL(helpArticleAddress());
+}
 
 } // namespace norvane

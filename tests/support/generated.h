@@ -5,8 +5,8 @@
 
 namespace norvane {
 
-/// Hex text of many kinds: mostly ordinary lines, and a good part of everything that can go wrong with
-/// one. The same seed gives the same texts.
+/// Hex text of many kinds: mostly ordinary lines, and a good part of everything that can go wrong
+/// with one. The same seed gives the same texts.
 class GeneratedHexText {
   public:
     explicit GeneratedHexText(unsigned seed) : random_(seed) {}

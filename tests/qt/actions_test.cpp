@@ -4,7 +4,9 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QMenu>
+#include <QMenuBar>
 
 namespace norvane {
 namespace {
@@ -68,6 +70,12 @@ TEST_F(Actions, DialogsCancelledAtEveryPoint) {
     click("BevelButton6");
     EXPECT_EQ(at<QLineEdit>("TextField1")->text().toStdString(), folder.path());
     EXPECT_EQ(window().hotFolder, folder.path());
+    answers([this](QWidget &dialog) {
+        EXPECT_EQ(dynamic_cast<QFileDialog &>(dialog).directory().path().toStdString() + "/",
+                  folder.path());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    click("BevelButton1");
 }
 
 TEST_F(Actions, AFailureIsToldOnceAndTheNextDecodeWorks) {
@@ -94,6 +102,8 @@ TEST_F(Actions, EditItemsServeTheFieldWithTheFocus) {
     auto *field = at<QLineEdit>("timerText");
     field->setFocus();
     field->deselect();
+    EXPECT_EQ(enabledItems("EditUndo"), Lines{"EditSelectAll"});
+    peer()->findChild<QMenuBar *>()->setFocus(); // as the access letters do
     EXPECT_EQ(enabledItems("EditUndo"), Lines{"EditSelectAll"});
     choose("EditSelectAll");
     EXPECT_EQ(enabledItems("EditUndo"),

@@ -196,8 +196,7 @@ class Program:
 
 def look(program):
     check("controls of the folded window", program.controls(), ALWAYS)
-    program.click("Watch folder settings")
-    wait_for("the window unfolds", lambda: program.geometry() == (586, 395 + program.menu_bar))
+    unfold(program)
     check("controls of the unfolded window", program.controls(), {**ALWAYS, **UNFOLDED})
     program.click("Watch folder settings")
     wait_for("the window folds", lambda: program.geometry() == (586, 281 + program.menu_bar))
@@ -229,6 +228,65 @@ def transcribe(program, companion, folder, opened):
                  lambda: unquote(opened.read_text()) == f"file://{target}\n")
 
 
+def unfold(program):
+    program.click("Watch folder settings")
+    wait_for("the window unfolds", lambda: program.geometry() == (586, 395 + program.menu_bar))
+
+
+def watch(build, folder):
+    """The watch, through a start, an end and a second start of the program."""
+    incoming, done = folder / "incoming", folder / "done"
+    incoming.mkdir()
+    done.mkdir()
+    start, every = f"{build}/shell/norvane", "Minutes between two checks for files"
+
+    def drop(name):
+        (folder / name).write_text(SAMPLE)
+        (folder / name).rename(incoming / name)
+
+    def is_done(name):
+        return ((done / name).with_suffix(".txt").exists() and not (incoming / name).exists() and
+                (done / "scc files" / name).read_text() == SAMPLE)
+
+    program = Program(start)
+    unfold(program)
+    for button, chosen in (("Browse for the watch folder", incoming),
+                           ("Browse for the destination folder", done)):
+        program.click(button)
+        program.dialog("Choose a Folder")
+        xdotool("key", "ctrl+a")
+        xdotool("type", chosen)
+        xdotool("key", "Return")
+        program.no_dialog()
+    program.click(every)
+    xdotool("key", "ctrl+a")
+    xdotool("type", "0.02")
+    drop("first.scc")
+    program.click("Decode Watch Folder Files")
+    wait_for("the cycle at switching on", lambda: is_done("first.scc"))
+    for name in ("second.scc", "third.scc"):
+        drop(name)
+        wait_for(f"a cycle with {name}", lambda: is_done(name))
+    xdotool("key", "ctrl+q")
+    program.ends()
+    check("preferences of the watch",
+          (folder / "com.bellwick.norvane.prefs").read_text().splitlines()[5:],
+          ["0.02", f"{incoming}/", f"{done}/", "true"])
+
+    drop("fourth.scc")
+    again = Program(start)
+    check("the cycle at the second start", is_done("fourth.scc"), True)
+    drop("fifth.scc")
+    time.sleep(3)  # more than two intervals
+    check("a watch that a start switched on gets no ticks", is_done("fifth.scc"), False)
+    unfold(again)
+    again.click("Decode Watch Folder Files")
+    again.click("Decode Watch Folder Files")
+    wait_for("the watch switched off and on", lambda: is_done("fifth.scc"))
+    xdotool("key", "ctrl+q")
+    again.ends()
+
+
 def main(build):
     folder = pathlib.Path(os.environ["XDG_CONFIG_HOME"])
     opened = folder / "opened"
@@ -257,6 +315,8 @@ def main(build):
     xdotool("key", "alt+f")
     xdotool("key", "Return")
     again.ends()
+    (folder / "com.bellwick.norvane.prefs").unlink()
+    watch(build, folder)
     print("window: all as it must be")
 
 

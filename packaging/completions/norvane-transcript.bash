@@ -1,0 +1,46 @@
+# Completion of norvane-transcript for bash.
+
+_norvane_transcript() {
+    local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} i
+    COMPREPLY=()
+    for ((i = 1; i < COMP_CWORD; i++)); do
+        if [[ ${COMP_WORDS[i]} == -- ]]; then
+            _norvane_transcript_files "$word"
+            return
+        fi
+    done
+    # Bash takes the equals sign of --form=line for a word of its own.
+    if [[ $previous == = ]]; then
+        previous=${COMP_WORDS[COMP_CWORD - 2]}
+    elif [[ $word == = ]]; then
+        word=
+    fi
+    case $previous in
+    --form) mapfile -t COMPREPLY < <(compgen -W 'timecode line paragraph' -- "$word") ;;
+    --clock) mapfile -t COMPREPLY < <(compgen -W 'unbuffered scc' -- "$word") ;;
+    --output-dir)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
+        ;;
+    *)
+        if [[ $word == -* ]]; then
+            mapfile -t COMPREPLY < <(
+                compgen -W '--form --clock --output-dir --force --help --version' -- "$word"
+            )
+        else
+            _norvane_transcript_files "$word"
+        fi
+        ;;
+    esac
+}
+
+# Folders, and files that end in .scc in either case.
+_norvane_transcript_files() {
+    compopt -o filenames
+    mapfile -t COMPREPLY < <(
+        compgen -d -- "$1"
+        compgen -f -X '!*.[sS][cC][cC]' -- "$1"
+    )
+}
+
+complete -F _norvane_transcript norvane-transcript

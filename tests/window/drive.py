@@ -128,6 +128,7 @@ class Program:
             xdotool("key", "Escape")
         self.window = wait_for("the window comes up", self.find_window)
         self.node = wait_for("the window can be read", windows)[0]
+        wait_for("the window takes keys", lambda: xdotool("getactivewindow") == self.window)
         self.menu_bar = wait_for("the menu bar has its height", lambda: self.geometry()[1] - 281)
 
     @staticmethod

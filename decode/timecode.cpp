@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstdint>
 #include <optional>
 
@@ -58,13 +57,13 @@ double sccSeconds(std::string_view timecode) {
     return hours * 3600 + minutes * 60 + seconds + frames / kFramesPerSecond;
 }
 
-/// The whole minutes of a count that goes through the text of Str: what stands there before the
-/// point. In a text with an exponent, that is the first digit.
+/// The whole minutes of a count that goes through the text of Str: what stands there before the point.
+/// In a text with an exponent, that is the first digit.
 double wholeMinutes(double minutes) {
     constexpr double kFirstWithExponent = 1e7;
     const double rounded = sevenDigits(minutes);
     if (rounded < kFirstWithExponent)
-        return std::trunc(rounded);
+        return Floor(rounded);
     const std::string text = Str(minutes);
     return Val(text.substr(0, text.find('.')));
 }
@@ -89,22 +88,17 @@ std::string timeCodeToSeconds(std::string_view timecode) {
 // the result: a quotient that rounds up to a whole minute is that minute. sevenDigits is such a
 // passage.
 std::string returnTimecode(double seconds) {
-    double hours = 0;
-    double minutes = 0;
-    double rest = sevenDigits(seconds);
-    if (seconds >= 60) {
-        minutes = wholeMinutes(seconds / 60);
-        rest = sevenDigits(seconds - minutes * 60);
-    }
+    const double allMinutes = seconds >= 60 ? wholeMinutes(seconds / 60) : 0;
+    const double hours = Floor(allMinutes / 60);
+    double minutes = allMinutes - hours * 60;
+    if (minutes < 0 || minutes >= 60) // only of counts beyond a double's whole numbers
+        minutes = sevenDigits(minutes);
+    double rest = sevenDigits(seconds - allMinutes * 60);
     if (rest < 0)
         rest = 0; // as a text, it is below 10 and gets a "0" in front of its sign
-    if (minutes >= 60) {
-        hours = Floor(minutes / 60);
-        minutes = sevenDigits(minutes - hours * 60);
-    }
     // The decimal mark is a point everywhere, so there is no comma to replace.
     const auto hundredths = roundedProduct(rest, 2);
-    if (hours < 100 && hundredths && *hundredths < 10000) {
+    if (hours < 100 && minutes < 60 && hundredths && *hundredths < 10000) {
         std::string text = "00:00:00.00";
         putPair(text, 0, static_cast<unsigned>(hours));
         putPair(text, 3, static_cast<unsigned>(minutes));

@@ -78,6 +78,7 @@ int run(const Options &options) {
 } // namespace norvane
 
 int main(int argc, char **argv) {
+    norvane::disk::surviveSizeLimits();
     const norvane::Options options = norvane::readOptions({argv + 1, argv + argc});
     if (!options.answer.empty()) {
         (options.exitStatus == 0 ? std::cout : std::cerr) << options.answer;

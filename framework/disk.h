@@ -88,6 +88,10 @@ class NewFile : public TextSink {
     int handle_ = -1;
 };
 
+/// Lets a write beyond the limit of a file's size fail like any other; without this call, it ends the
+/// process.
+void surviveSizeLimits();
+
 /// Writes all of `bytes` to an open descriptor. Throws IOException, naming `what`.
 void writeAll(int handle, std::string_view bytes, const std::string &what);
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
@@ -257,6 +258,10 @@ void NewFile::commit() {
 
 void NewFile::fail(int error) {
     throw IOException(quoted(path_) + " cannot be written: " + reason(error) + ".");
+}
+
+void surviveSizeLimits() {
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 void writeAll(int handle, std::string_view bytes, const std::string &what) {

@@ -1,3 +1,4 @@
+#include "framework/disk.h"
 #include "framework/qt/qt_desktop.h"
 #include "shell/app.h"
 #include "shell/file_types.h"
@@ -6,6 +7,7 @@
 
 int main(int argc, char **argv) {
     using namespace norvane;
+    disk::surviveSizeLimits();
     QApplication toolkit(argc, argv); // which scales to the screen by itself
     QApplication::setApplicationName(QStringLiteral("Norvane"));
     QGuiApplication::setDesktopFileName(QStringLiteral("norvane"));

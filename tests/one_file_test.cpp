@@ -131,24 +131,5 @@ TEST_F(OneFile, AFailedSaveIsToldAndKeepsWhatWasThere) {
     EXPECT_EQ(folder.tree(), (Lines{"show.scc", "taken/", "taken/inside"}));
 }
 
-TEST_F(OneFile, BoxesSetEachOtherOff) {
-    Window1 &w = window();
-    const auto state = [&w] {
-        return std::string(w.LineBox.Value ? "L" : "-") + (w.TimecodeBox.Value ? "T" : "-") +
-               (w.ParagraphBox.Value ? "P" : "-");
-    };
-    const std::pair<CheckBox *, const char *> clicks[] = {
-        {&w.TimecodeBox, "L--"},  {&w.TimecodeBox, "LT-"},  {&w.LineBox, "--P"},
-        {&w.LineBox, "LT-"},      {&w.ParagraphBox, "--P"}, {&w.TimecodeBox, "LT-"},
-        {&w.ParagraphBox, "--P"}, {&w.ParagraphBox, "LT-"}, {&w.TimecodeBox, "L--"},
-        {&w.LineBox, "--P"},      {&w.ParagraphBox, "LT-"},
-    };
-    EXPECT_EQ(state(), "LT-");
-    for (const auto &[box, after] : clicks) {
-        desktop.click(*box);
-        EXPECT_EQ(state(), after) << box->Name;
-    }
-}
-
 } // namespace
 } // namespace norvane

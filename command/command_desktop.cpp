@@ -1,6 +1,6 @@
 #include "command/command_desktop.h"
 
-#include <iostream>
+#include <cstdio>
 #include <unistd.h>
 
 namespace norvane {
@@ -25,17 +25,21 @@ class StandardOutputItem : public FolderItem {
 
 } // namespace
 
+void printError(const std::string &text) {
+    std::fputs(text.c_str(), stderr);
+}
+
 CommandDesktop::CommandDesktop(std::string file) : file_(std::move(file)) {}
 
 CommandDesktop::~CommandDesktop() {
     clearProgress();
     if (!written_ && !told_)
-        std::cerr << file_ << ": cannot be read.\n";
+        printError(file_ + ": cannot be read.\n");
 }
 
 void CommandDesktop::message(const std::string &text) {
     clearProgress();
-    std::cerr << file_ << ": " << text << '\n';
+    printError(file_ + ": " + text + "\n");
     told_ = true;
 }
 
@@ -55,12 +59,12 @@ void CommandDesktop::showProgress(const ProgressBar &bar) {
     if (percent == shownPercent_ || std::chrono::steady_clock::now() - start_ < kLong)
         return;
     shownPercent_ = percent;
-    std::cerr << '\r' << file_ << ": " << percent << " %" << std::flush;
+    printError("\r" + file_ + ": " + std::to_string(percent) + " %");
 }
 
 void CommandDesktop::clearProgress() {
     if (shownPercent_ >= 0)
-        std::cerr << "\r\033[K" << std::flush;
+        printError("\r\033[K");
     shownPercent_ = -1;
 }
 

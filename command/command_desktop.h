@@ -8,6 +8,10 @@
 
 namespace norvane {
 
+/// Writes to standard error at once. (The stream library would take longer to start than a short
+/// file to decode.)
+void printError(const std::string &text);
+
 /// The desktop of one decode from a shell: messages go to standard error, and a progress line is
 /// kept there while a long decode runs on a terminal.
 class CommandDesktop : public HeadlessDesktop {

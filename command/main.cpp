@@ -3,8 +3,8 @@
 #include "framework/guard.h"
 #include "shell/window1.h"
 
+#include <cstdio>
 #include <filesystem>
-#include <iostream>
 #include <system_error>
 
 namespace norvane {
@@ -64,7 +64,7 @@ int run(const Options &options) {
         std::error_code error;
         std::filesystem::create_directories(options.outputFolder, error);
         if (error) {
-            std::cerr << options.outputFolder << ": cannot be made: " << error.message() << ".\n";
+            printError(options.outputFolder + ": cannot be made: " + error.message() + ".\n");
             return 1;
         }
     }
@@ -81,8 +81,9 @@ int main(int argc, char **argv) {
     norvane::disk::surviveSizeLimits();
     const norvane::Options options = norvane::readOptions({argv + 1, argv + argc});
     if (!options.answer.empty()) {
-        (options.exitStatus == 0 ? std::cout : std::cerr) << options.answer;
-        return options.exitStatus;
+        const bool said =
+            std::fputs(options.answer.c_str(), options.exitStatus == 0 ? stdout : stderr) >= 0;
+        return said && std::fflush(stdout) == 0 ? options.exitStatus : 1;
     }
     return norvane::run(options);
 }

@@ -24,9 +24,6 @@ class TextArray {
     /// At least as many bytes as the texts have together.
     std::size_t byteCount() const { return bytes_.size(); }
 
-    /// False when no text holds the ASCII character `c`.
-    bool holds(char c) const { return bytes_.find(c) != std::string::npos; }
-
     /// Puts `text`, which must not be a view of this array, in the place of the text at `index`;
     /// throws OutOfBoundsException past the end.
     void set(std::size_t index, std::string_view text);

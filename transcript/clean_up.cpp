@@ -104,9 +104,12 @@ std::size_t nextChange(std::string_view text, std::size_t start) {
 } // namespace
 
 void cleanEntries(TextArray &captions) {
-    const bool marks = captions.holds(kBar[0]) || captions.holds(kLiteralPattern[0]);
+    const auto holdsMark = [](std::string_view entry) {
+        return entry.find(kBar) != std::string_view::npos ||
+               entry.find(kLiteralPattern[0]) != std::string_view::npos;
+    };
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        if (!marks && captions[i] != " ")
+        if (captions[i] != " " && !holdsMark(captions[i]))
             continue; // no pass would change it
         std::string entry(captions[i]);
         removeFirst(entry, kBar, kBar);

@@ -84,9 +84,12 @@ struct ByteText {
     bool isByte = false;
 };
 
-/// By the two characters, in their place in memory read as a number.
-const std::array<ByteText, 0x10000> kByteTexts = [] {
-    std::array<ByteText, 0x10000> texts{};
+/// By the two characters, in their place in memory read as a number. All but a few stay the zeros
+/// that the system gives when it is first asked for a page, so that a start does not pay for the
+/// whole table.
+constinit std::array<ByteText, 0x10000> byteTexts{};
+
+const bool kByteTextsFilled = [] {
     constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
     for (const char first : kDigits) {
         for (const char second : kDigits) {
@@ -96,18 +99,18 @@ const std::array<ByteText, 0x10000> kByteTexts = [] {
             const std::string_view letter = letterOf(byte);
             const Piece piece =
                 pieceOf(letter.empty() ? std::string_view(digits.data(), 2) : letter);
-            texts.at(std::bit_cast<std::uint16_t>(digits)) = {
+            byteTexts.at(std::bit_cast<std::uint16_t>(digits)) = {
                 piece.text, static_cast<unsigned char>(piece.size), byte,
                 kCrossingKeys.byte.at(CrossingKeys::kNothing).at(byte), true};
         }
     }
-    return texts;
+    return true;
 }();
 
 const ByteText &byteTextAt(const char *digits) {
     std::uint16_t place = 0;
     std::memcpy(&place, digits, sizeof place);
-    return kByteTexts[place];
+    return byteTexts[place];
 }
 
 char *put(char *out, const std::array<char, 4> &text, std::size_t size) {

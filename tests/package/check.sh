@@ -81,6 +81,12 @@ cd "$work/files"
 touch a.scc B.SCC c.txt
 [ "$(completed_by_bash '' | LC_ALL=C sort | tr '\n' ' ')" = 'B.SCC a.scc folder ' ] || fail 'bash on files'
 
+# What the README shows is what the program prints.
+for form in timecode line paragraph; do
+    [[ $(<"$root/README.md") == *"$("$transcript" --form $form "$root/resources/samples/night-train.scc")"* ]] ||
+        fail "the README's $form form"
+done
+
 for page in "$usr"/share/man/man1/*; do
     complaints=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null)
     [ -z "$complaints" ] || fail "$page: $complaints"

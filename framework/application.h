@@ -25,7 +25,8 @@ class Application {
     /// Raised before menus are shown.
     virtual void Event_EnableMenuItems() {}
 
-    /// Binds a handler to the items named `itemName`, of which there may be none.
+    /// Binds a handler to the items named `itemName`, of which there may be none, in the place of
+    /// an earlier one.
     void addMenuHandler(const std::string &itemName, MenuHandler handler);
 
     /// Runs the handler of a name, under the guard; a name without one does nothing.

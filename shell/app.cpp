@@ -12,14 +12,6 @@ App &App::the() {
     return app;
 }
 
-App::App() {
-    MenuBar = &MenuBar1::the();
-    // No item bears the first two names: the handlers stand ready for a command of that name.
-    addMenuHandler("FileNewWindow", [this] { return _FileNewWindow_Action(); });
-    addMenuHandler("FileEnableHotFolder", [this] { return _FileEnableHotFolder_Action(); });
-    addMenuHandler("FileAboutNorvane", [this] { return _FileAboutNorvane_Action(); });
-}
-
 void App::Event_Open() {}
 
 void App::Event_EnableMenuItems() {
@@ -41,13 +33,34 @@ bool App::_FileAboutNorvane_Action() {
     return false;
 }
 
+namespace {
+
+void _NewAppInstance() { // NOLINT: the steps are named as the start-up names them
+    App::the().MenuBar = &MenuBar1::the();
+}
+
+void _ApplicationAddMenuHandlers() { // NOLINT
+    App &app = App::the();
+    // No item bears the first two names: the handlers stand ready for a command of that name.
+    app.addMenuHandler("FileNewWindow", [&app] { return app._FileNewWindow_Action(); });
+    app.addMenuHandler("FileEnableHotFolder", [&app] { return app._FileEnableHotFolder_Action(); });
+    app.addMenuHandler("FileAboutNorvane", [&app] { return app._FileAboutNorvane_Action(); });
+}
+
+void _MakeDefaultView() { // NOLINT
+    Window1::the().Show();
+}
+
+} // namespace
+
 void _EarlyStartup() {
     _InitFileTypes();
-    App::the();
+    _NewAppInstance();
+    _ApplicationAddMenuHandlers();
 }
 
 void _LateStartup() {
-    Window1::the().Show();
+    _MakeDefaultView();
 }
 
 } // namespace norvane

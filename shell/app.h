@@ -7,7 +7,7 @@ namespace norvane {
 /// The application object: preferences and menu handlers. All other state is Window1's.
 class App : public Application {
   public:
-    /// The one instance, made at first use with its menu bar and its handlers.
+    /// The one instance, made at first use.
     static App &the();
 
     void Event_Open() override;
@@ -26,9 +26,6 @@ class App : public Application {
     /// Sets the controls of Window1 from the preference file, which raises their actions. Does
     /// nothing without a readable file; what a short file lacks counts as empty.
     void GetPrefs();
-
-  private:
-    App();
 };
 
 /// What the process does before its first window: file types, application object, menu handlers.

@@ -1,5 +1,7 @@
 #include "tests/support/scenario.h"
 
+#include "shell/app.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -42,6 +44,7 @@ Lines TemporaryFolder::tree() const {
 
 Scenario::Scenario() {
     setenv("XDG_CONFIG_HOME", preferences.path().c_str(), 1);
+    _EarlyStartup();
 }
 
 Scenario::~Scenario() {

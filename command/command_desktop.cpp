@@ -17,7 +17,7 @@ class StandardOutput : public TextSink {
 
 class StandardOutputItem : public FolderItem {
   public:
-    StandardOutputItem() : FolderItem("/dev/stdout") {}
+    StandardOutputItem() : FolderItem("/standard output") {}
     Ref<TextOutputStream> CreateTextFile() const override {
         return Ref(std::make_shared<TextOutputStream>(std::make_unique<StandardOutput>()));
     }
@@ -56,7 +56,7 @@ void CommandDesktop::followProgress(ProgressBar &bar) {
 void CommandDesktop::showProgress(const ProgressBar &bar) {
     constexpr auto kLong = std::chrono::milliseconds(500);
     const int percent = static_cast<int>(100.0 * bar.Value / bar.Maximum);
-    if (percent == shownPercent_ || std::chrono::steady_clock::now() - start_ < kLong)
+    if (percent == shownPercent_ || std::chrono::steady_clock::now() - kStart < kLong)
         return;
     shownPercent_ = percent;
     printError("\r" + file_ + ": " + std::to_string(percent) + " %");

@@ -37,7 +37,7 @@ class CommandDesktop : public HeadlessDesktop {
     std::string file_;
     bool written_ = false;
     bool told_ = false;
-    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    inline static const auto kStart = std::chrono::steady_clock::now(); // of the program
     int shownPercent_ = -1;
 };
 

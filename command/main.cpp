@@ -10,9 +10,13 @@
 namespace norvane {
 namespace {
 
-/// "." and ".." stay: the path is the user's, made absolute.
+/// The user's path made absolute; "." and ".." stay. Throws IOException when it cannot be.
 std::string absolutePath(const std::string &path) {
-    return std::filesystem::absolute(std::filesystem::path(path)).string();
+    std::error_code error;
+    const std::string absolute = std::filesystem::absolute(path, error).string();
+    if (path.empty() || error)
+        throw IOException(norvane::quoted(path) + " cannot be found.");
+    return absolute;
 }
 
 void choose(Window1 &window, const Options &options) {

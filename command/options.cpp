@@ -1,8 +1,5 @@
 #include "command/options.h"
 
-#include <algorithm>
-#include <optional>
-
 namespace norvane {
 
 namespace {

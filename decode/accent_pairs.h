@@ -10,7 +10,7 @@ namespace norvane {
 
 /// A hyphen behind a special character, to the character alone: byte by byte, so that case counts, in
 /// this order, on the composed transcript. Kept: "à-" stands twice, so that two hyphens go behind "à".
-inline constexpr std::array<TableRow, 45> kAccentPairs = {{
+inline constexpr auto kAccentPairs = std::to_array<TableRow>({
     {"å-", "å"}, // U+00E5
     {"’-", "’"}, // U+2019
     {"ò-", "ò"}, // U+00F2
@@ -56,7 +56,8 @@ inline constexpr std::array<TableRow, 45> kAccentPairs = {{
     {"Ö-", "Ö"}, // U+00D6
     {"ö-", "ö"}, // U+00F6
     {"ë-", "ë"}, // U+00EB
-}};
+});
+static_assert(kAccentPairs.size() == 45);
 
 // clang-format on
 

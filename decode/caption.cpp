@@ -44,8 +44,8 @@ void appendCaption(std::string &captions, std::string_view hexText) {
     if (text.empty())
         text = kTwoBlanks;
     if (characterSize(text) == text.size())
-        throw OutOfBoundsException("the codes “" + std::string(hexText) +
-                                   "” leave no pair of characters.");
+        throw OutOfBoundsException("the codes " + quoted(hexText) +
+                                   " leave no pair of characters.");
     const TableRow &marks = kReplacementChain[kMarksRow - 1];
     captions += ReplaceAll(letters(text), marks.key, marks.with);
 }

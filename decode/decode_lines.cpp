@@ -25,8 +25,8 @@ std::vector<std::string_view> readLines(TextInputStream &stream) {
 } // namespace
 
 bool Window1::decodeLines(TextInputStream &stream) {
-    RegEx patternRegEx("\\d\\d\\:");
-    RegEx tabRegEx("\t");
+    const RegEx patternRegEx("\\d\\d\\:");
+    const RegEx tabRegEx("\t");
 
     ProgressText.Text = "Reading SCC File...";
     ProgressText.Visible = true;
@@ -55,11 +55,18 @@ bool Window1::decodeLines(TextInputStream &stream) {
         const std::string_view timecode = lineArray[i].substr(0, tab->start);
         const std::string_view behind = lineArray[i].substr(tab->start + 1);
         const std::string_view hexText = behind.substr(0, behind.find('\t'));
-        if (RadioButton1.Value)
-            timeCodeArray.Append(unbufferedTimecode(timecode, hexText));
-        else
-            timeCodeArray.Append(timecode);
-        captionArray2.appendWith([&](std::string &captions) { appendCaption(captions, hexText); });
+        try {
+            if (RadioButton1.Value)
+                timeCodeArray.Append(unbufferedTimecode(timecode, hexText));
+            else
+                timeCodeArray.Append(timecode);
+            captionArray2.appendWith(
+                [&](std::string &captions) { appendCaption(captions, hexText); });
+        } catch (const OutOfBoundsException &failure) {
+            // Only here it is known where the text stood that text code could not take.
+            throw OutOfBoundsException("data line " + std::to_string(i) + " of " +
+                                       quoted(fileName) + ": " + failure.what());
+        }
     }
     return true;
 }

@@ -5,13 +5,17 @@
 
 namespace norvane {
 
+bool Window1::isSccName(const std::string &name) {
+    static const RegEx patternRegEx(".scc");
+    return patternRegEx.Search(name).has_value();
+}
+
 void Window1::importSCC() {
     captionArray2.clear(); // kept: the timecodes of a run that stopped stay for the next
-    const RegEx patternRegEx(".scc");
     const Ref<FolderItem> item = GetOpenFolderItem(kSccFileType);
     if (!item)
         return;
-    if (!patternRegEx.Search(item->Name())) {
+    if (!isSccName(item->Name())) {
         MsgBox("This file does not have the .scc extension.");
         clearScreen();
         return;

@@ -14,7 +14,7 @@ namespace {
 /// Each caption byte, parity bit included, and its character. The order stands, since each row works
 /// on what the rows before it left. Kept: the "#" has the key of wrong parity, so that the correct 23
 /// stays as digits; 7f, the solid block, is a bar; both 28 and a8 are "(".
-constexpr std::array<TableRow, 97> kLetters = {{
+constexpr auto kLetters = std::to_array<TableRow>({
     // Capitals
     {"c1", "A"},
     {"c2", "B"},
@@ -119,10 +119,11 @@ constexpr std::array<TableRow, 97> kLetters = {{
     // The parenthesis with correct parity, and the blank
     {"a8", "("},
     {"20", " "},
-}};
+});
+static_assert(kLetters.size() == 97);
 
 /// Special and extended characters without the blank behind them. Kept: 9131 has its blank.
-constexpr std::array<TableRow, 70> kSpecialCharacters = {{
+constexpr auto kSpecialCharacters = std::to_array<TableRow>({
     {"92b0", "À"},
     {"9231", "Â"},
     {"9232", "Ç"},
@@ -193,7 +194,8 @@ constexpr std::array<TableRow, 70> kSpecialCharacters = {{
     {"13a7", "Õ"},
     {"13a8", "õ"},
     {"206d", "m"},
-}};
+});
+static_assert(kSpecialCharacters.size() == 70);
 
 // clang-format on
 

@@ -4,7 +4,9 @@
 #include "decode/rows_of_code.h"
 #include "framework/text.h"
 
+#include <algorithm>
 #include <bitset>
+#include <optional>
 
 namespace norvane {
 
@@ -16,6 +18,10 @@ constexpr std::size_t kBlanks = kBlanksRow - 1;
 constexpr std::size_t kFiller = kFillerRow - 1;
 
 using Rows = std::bitset<kChainRows>;
+
+bool isHexDigit(char c) {
+    return hexDigitValue(c) >= 0;
+}
 
 /// The rows whose keys occur in `text`.
 Rows rowsThatOccur(std::string_view text) {
@@ -48,20 +54,54 @@ Rows rowsThatOccur(std::string_view text) {
     return rows;
 }
 
+/// Rows 2 to 480 in one go, where the text is words parted by blanks, since a key of these rows can
+/// then only be a whole word; nothing for other text.
+std::optional<std::string> replaceWholeWords(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        if (text[0] == ' ') {
+            text.remove_prefix(1);
+            continue;
+        }
+        const std::string_view word = text.substr(0, text.find(' '));
+        if (word.size() != 4 || !std::all_of(word.begin(), word.end(), isHexDigit))
+            return {};
+        text.remove_prefix(word.size());
+        const std::size_t row = kRowsOfCode.first[codeOf(word)];
+        if (row == 0 || row > kBlanksRow) {
+            result += word;
+            continue;
+        }
+        for (const char c : kReplacementChain[row - 1].with) {
+            if (c != ' ')
+                result += c;
+        }
+    }
+    return result;
+}
+
+/// Whether a row of this index can bring about keys of later rows: where a deletion joined what it
+/// parted, or in a bar, or in a blank as long as blanks are a key.
+bool bringsAboutKeys(std::size_t row) {
+    const std::string_view with = kReplacementChain[row].with;
+    return with.empty() || with.find('|') != std::string_view::npos ||
+           (row < kBlanks && with.find(' ') != std::string_view::npos);
+}
+
 } // namespace
 
-// A row whose key does not occur does nothing. Only a row that ran can bring keys about: where a
-// deletion joined what it parted, or in a bar or blank that it put in; the text is looked at again
-// behind those.
+// A row whose key does not occur does nothing, so the rows whose keys occur are all there is to
+// run.
 std::string replaceCodeWords(std::string_view hexText) {
-    std::string text(hexText);
+    auto words = replaceWholeWords(hexText);
+    std::string text = words ? std::move(*words) : std::string(hexText);
     Rows rows = rowsThatOccur(text);
-    for (std::size_t row = kFirst; row < kLastWalkedRow; ++row) {
+    for (std::size_t row = words ? kBlanks + 1 : kFirst; row < kLastWalkedRow; ++row) {
         if (!rows.test(row))
             continue;
-        const auto &[key, with] = kReplacementChain[row];
-        text = ReplaceAll(text, key, with);
-        if (with.empty() || with.find_first_of("| ") != std::string_view::npos)
+        text = ReplaceAll(text, kReplacementChain[row].key, kReplacementChain[row].with);
+        if (bringsAboutKeys(row))
             rows = rowsThatOccur(text);
     }
     return text;

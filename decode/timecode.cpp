@@ -23,9 +23,8 @@ std::array<double, count> fieldsOf(std::string_view timecode) {
     for (std::size_t field = 0; field < count; ++field) {
         const std::size_t colon = std::min(rest.find(':'), rest.size());
         if (colon == rest.size() && field + 1 < count) {
-            throw OutOfBoundsException("the timecode “" + std::string(timecode) +
-                                       "” has fewer than " + (count == 4 ? "four" : "three") +
-                                       " fields.");
+            throw OutOfBoundsException("the timecode " + quoted(timecode) + " has fewer than " +
+                                       (count == 4 ? "four" : "three") + " fields.");
         }
         fields[field] = Val(rest.substr(0, colon));
         rest.remove_prefix(std::min(colon + 1, rest.size()));
@@ -57,8 +56,8 @@ double sccSeconds(std::string_view timecode) {
     return hours * 3600 + minutes * 60 + seconds + frames / kFramesPerSecond;
 }
 
-/// The whole minutes of a count that goes through the text of Str: what stands there before the point.
-/// In a text with an exponent, that is the first digit.
+/// The whole minutes of a count that goes through the text of Str: what stands there before the
+/// point. In a text with an exponent, that is the first digit.
 double wholeMinutes(double minutes) {
     constexpr double kFirstWithExponent = 1e7;
     const double rounded = sevenDigits(minutes);

@@ -1,4 +1,3 @@
-#include "folders/scc_name.h"
 #include "framework/desktop.h"
 #include "shell/window1.h"
 

@@ -1,4 +1,3 @@
-#include "folders/scc_name.h"
 #include "framework/desktop.h"
 #include "shell/window1.h"
 
@@ -13,7 +12,7 @@ std::vector<std::string> copyAndList(const FolderItem &watchItem, const FolderIt
     for (std::size_t i = 1; i <= watchItem.Count(); ++i) {
         const Ref<FolderItem> item = watchItem.Item(i);
         item->CopyFileTo(*GetFolderItem(copies + item->Name(), 0));
-        if (isSccName(item->Name()))
+        if (Window1::isSccName(item->Name()))
             sourceList.push_back(item->AbsolutePath());
     }
     return sourceList;

@@ -88,8 +88,8 @@ class NewFile : public TextSink {
     int handle_ = -1;
 };
 
-/// Lets a write beyond the limit of a file's size fail like any other; without this call, it ends the
-/// process.
+/// Lets a write beyond the limit of a file's size fail like any other; without this call, it ends
+/// the process.
 void surviveSizeLimits();
 
 /// Writes all of `bytes` to an open descriptor. Throws IOException, naming `what`.

@@ -32,6 +32,8 @@ constexpr const char *kTemporarySuffix = ".part";
 constexpr const char *kIsFolder = " is a folder.";
 constexpr const char *kNotOrdinary = " is no ordinary file.";
 
+[[maybe_unused]] constexpr const char *kOpenFiles = "/proc/self/fd/";
+
 std::string quoted(const std::string &path) {
     return "“" + path + "”";
 }
@@ -202,7 +204,8 @@ NewFile::NewFile(std::string path, std::string &problem) : path_(behindLinks(std
     }
     removeLeftovers(folderOf(path_));
 #ifdef O_TMPFILE
-    handle_ = open(folderOf(path_).c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
+    if (access(kOpenFiles, X_OK) == 0) // by which alone it can get its name
+        handle_ = open(folderOf(path_).c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
 #endif
     if (!isOpen()) {
         nameTemporary();
@@ -237,7 +240,7 @@ void NewFile::commit() {
         fail(errno);
 #ifdef O_TMPFILE
     if (temporary_.empty()) {
-        const std::string self = "/proc/self/fd/" + std::to_string(handle_);
+        const std::string self = kOpenFiles + std::to_string(handle_);
         if (linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path_.c_str(), AT_SYMLINK_FOLLOW) == 0) {
             syncFolder(folderOf(path_));
             close(std::exchange(handle_, -1));

@@ -53,19 +53,17 @@ RegEx::ByteSet RegEx::takeItem(std::string_view &pattern) {
     return bytes;
 }
 
-void RegEx::setSearchPattern(std::string_view pattern) {
-    if (pattern == pattern_)
-        return;
-    pattern_ = pattern;
-    items_.clear();
+RegEx::RegEx(std::string_view SearchPattern) {
+    std::string_view pattern = SearchPattern;
     while (!pattern.empty())
         items_.push_back(takeItem(pattern));
-    oneByte_ = pattern_.size() == 1 && items_[0].count() == 1;
+    if (SearchPattern.size() == 1 && items_[0].count() == 1)
+        onlyByte_ = SearchPattern[0];
 }
 
 std::optional<RegExMatch> RegEx::Search(std::string_view text) const {
-    if (oneByte_) {
-        const std::size_t at = text.find(pattern_[0]);
+    if (onlyByte_) {
+        const std::size_t at = text.find(*onlyByte_);
         return at == std::string_view::npos ? std::nullopt : std::optional(RegExMatch{at, 1});
     }
     for (std::size_t start = 0; start + items_.size() <= text.size(); ++start) {

@@ -3,7 +3,6 @@
 #include <bitset>
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,11 +20,8 @@ struct RegExMatch {
 /// is no repetition.
 class RegEx {
   public:
-    RegEx() = default;
-    explicit RegEx(std::string_view pattern) { setSearchPattern(pattern); }
-
-    void setSearchPattern(std::string_view pattern);
-    const std::string &SearchPattern() const { return pattern_; }
+    /// A search for `SearchPattern`.
+    explicit RegEx(std::string_view SearchPattern);
 
     /// The first match in `text`, or nothing.
     std::optional<RegExMatch> Search(std::string_view text) const;
@@ -36,9 +32,8 @@ class RegEx {
     using ByteSet = std::bitset<256>;
     static ByteSet takeItem(std::string_view &pattern);
 
-    std::string pattern_;
     std::vector<ByteSet> items_;
-    bool oneByte_ = false; // the pattern is a single character without case
+    std::optional<char> onlyByte_; // of a pattern that is a single character without case
 };
 
 } // namespace norvane

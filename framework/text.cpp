@@ -146,6 +146,18 @@ bool isAscii(std::string_view text) {
     return all < 0x80;
 }
 
+std::string quoted(std::string_view text) {
+    constexpr std::size_t kMostCharacters = 40;
+    std::string result = "“";
+    for (std::size_t characters = 0; !text.empty() && characters < kMostCharacters; ++characters) {
+        const std::size_t size = characterSize(text);
+        const bool control = static_cast<unsigned char>(text[0]) < ' ' || text[0] == '\x7F';
+        result += control ? std::string_view("?") : text.substr(0, size);
+        text.remove_prefix(size);
+    }
+    return result + (text.empty() ? "”" : "…”");
+}
+
 std::string Chr(int code) {
     return {static_cast<char>(code)};
 }

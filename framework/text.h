@@ -64,6 +64,10 @@ std::size_t characterSize(std::string_view text);
 /// True when every byte of `text` is ASCII, so that its bytes are its characters.
 bool isAscii(std::string_view text);
 
+/// `text` in quotation marks for a message: its beginning when it is long, with "?" for each
+/// control character.
+std::string quoted(std::string_view text);
+
 /// The character with the ASCII code `code`.
 std::string Chr(int code);
 

@@ -25,8 +25,8 @@ void TextArray::reserve(std::size_t texts, std::size_t bytes) {
 }
 
 void TextArray::failOutOfBounds(std::size_t index) const {
-    throw OutOfBoundsException("item " + std::to_string(index + 1) +
-                               " was needed of a list of only " + std::to_string(size()));
+    throw OutOfBoundsException("entry " + std::to_string(index + 1) +
+                               " is missing from a list of " + std::to_string(size()) + ".");
 }
 
 } // namespace norvane

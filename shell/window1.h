@@ -93,6 +93,9 @@ class Window1 : public Window {
     void importSCCFolderSingle();
     void importSCCFolder();
 
+    /// Whether a name counts as that of an SCC file: any character and "scc", anywhere in it.
+    static bool isSccName(const std::string &name);
+
     // The writers at the end of each mode (transcript/writers.cpp): the two arrays to a transcript.
     void doTranscTimecode();
     void DoTranscTimecodeFileSingle();

@@ -119,8 +119,8 @@ TEST(Captions, AreThoseOfThePlainWalkOnGeneratedText) {
     }
 }
 
-// Every word beside every kind of neighbour: the exhaustive part of the comparison.
-TEST(Captions, AreThoseOfThePlainWalkOnEveryWord) {
+// Words of all values beside neighbours that some keys reach across to.
+TEST(Captions, AreThoseOfThePlainWalkOnWordsOfAllValues) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     const char *neighbours[][2] = {
         {"", ""}, {"c1e9 ", " 4580"}, {"91b9 ", " 3280"}, {"c8b9 ", " 2520"}};

@@ -35,13 +35,18 @@ expect 0 'Transcripts of show\n\n[00:00:01;00]\t Hi! \n\n\n' '' --clock scc --fo
 expect 0 'Transcripts of show\n\n Hi! \n\nTranscripts of empty\n\n\n' '' --form line show.scc empty.scc
 expect 0 'Transcripts of show\n\n Hi! \n' '' --form paragraph -- show.scc
 expect 0 'Transcripts of empty\n\n\n' '' empty.scc
-expect 1 "$timecodes" "three.scc: This could not be finished: the timecode “01:00:00” has fewer than four fields.
+expect 1 "$timecodes" "three.scc: This could not be finished: data line 1 of “three.scc”: the timecode “01:00:00” has fewer than four fields.
 blank.scc: This SCC file does not appear to be formatted correctly. It needs to have a tab between the timecode and the hexidecimal caption code.
 gone.scc: This could not be finished: “$folder/gone.scc” cannot be opened: No such file or directory.
 folder.scc: This could not be finished: “$folder/folder.scc” is a folder.
 fifo.scc: This could not be finished: “$folder/fifo.scc” is no ordinary file.
 out.txt: This file does not have the .scc extension.\n" three.scc blank.scc gone.scc folder.scc fifo.scc out.txt show.scc
 timeout 20 "$program" nul.scc >out.txt || failed=1
+long=$(printf '%300s' | tr ' ' '1')
+printf 'header\n00:\0\033[2J:%s\t9420\n' "$long" >odd.scc
+expect 1 '' "odd.scc: This could not be finished: data line 1 of “odd.scc”: the timecode “00:??[2J:${long:0:31}…” has fewer than four fields.\n" odd.scc
+expect 1 '' ': This could not be finished: “” cannot be found.\n' ''
+"$program" --help >/dev/full && failed=1
 
 expect 0 '' '' --output-dir made/here show.scc
 [ "$(cat made/here/show.txt; echo .)" = "$(printf '%b.' "$timecodes")" ] || failed=1

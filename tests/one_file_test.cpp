@@ -74,10 +74,11 @@ TEST_F(OneFile, BadLinesStopWithTheirMessageAndNoTranscript) {
         {sccFile({line("00:00:01:00"), "   "}), kNoTimecode},
         {sccFile({line("0:0:01:00"), "no colon\t9420"}), kNoTimecode},
         {sccFile({"00:00:01:00 9420 9420"}), kNoTab},
-        {sccFile({line("00:00:05")}),
-         "This could not be finished: the timecode “00:00:05” has fewer than four fields."},
+        {sccFile({line("00:00:05")}), "This could not be finished: data line 1 of “bad.scc”: the "
+                                      "timecode “00:00:05” has fewer than four fields."},
         {sccFile({line("00:00:01:00", "13ba")}),
-         "This could not be finished: the codes “13ba” leave no pair of characters."},
+         "This could not be finished: data line 1 of “bad.scc”: the codes “13ba” leave no pair of "
+         "characters."},
     };
     for (const auto &[text, message] : rows) {
         folder.write("bad.scc", text);

@@ -6,8 +6,9 @@
 
 namespace norvane {
 
-/// The three entry passes, in place: the first two bars of an entry go (with exceptions that the
-/// passes make), and an entry of one blank becomes empty. The number of entries stays.
+/// The three entry passes, in place: an entry loses its first two bars, one of nothing but bars
+/// only the first, and an entry that is or comes to be a single blank is emptied. The number of
+/// entries stays.
 void cleanEntries(TextArray &captions);
 
 /// The text passes over a composed transcript, in place: accent pairs, bars to blanks, and each run

@@ -1,5 +1,6 @@
 #include "bench/ordinary_scc.h"
 #include "decode/caption.h"
+#include "decode/chain_table.h"
 #include "framework/headless/headless_desktop.h"
 #include "shell/window1.h"
 #include "tests/support/plain_walk.h"
@@ -84,11 +85,19 @@ void oneLine(benchmark::State &state, const std::string &piece) {
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
+std::string everyKey() {
+    std::string keys;
+    for (const TableRow &row : kReplacementChain)
+        keys.append(row.key).append(" ");
+    return keys;
+}
+
 constexpr std::int64_t kMega = 1'000'000;
 BENCHMARK_CAPTURE(oneLine, ordinaryWords, "9420 9470 c8e5 ecec ef80 ")
     ->Arg(10 * kMega)
     ->Arg(40 * kMega);
 BENCHMARK_CAPTURE(oneLine, wordsThatCross, "c8e5 4649 454c c480 ")->Arg(kMega)->Arg(4 * kMega);
+BENCHMARK_CAPTURE(oneLine, allCodes, everyKey())->Arg(kMega)->Arg(4 * kMega);
 BENCHMARK_CAPTURE(oneLine, bars, "|")->Arg(10'000)->Arg(40'000);
 BENCHMARK_CAPTURE(oneLine, oneKey, "9420")->Arg(kMega)->Arg(4 * kMega);
 BENCHMARK_CAPTURE(oneLine, keysMadeByDeletion, "949420209480ae9194ae31")

@@ -3,6 +3,7 @@
 #include "framework/file_type.h"
 #include "framework/folder_item.h"
 
+#include <QDir>
 #include <QMessageBox>
 #include <QString>
 
@@ -32,7 +33,7 @@ class Dialogs {
     Ref<FolderItem> chosen(const QString &path, const QString &itsFolder);
 
     std::vector<FileType> types_;
-    QString lastFolder_;
+    QString lastFolder_ = QDir::homePath();
 };
 
 } // namespace norvane

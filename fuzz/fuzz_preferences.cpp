@@ -1,6 +1,7 @@
 #include "framework/headless/headless_desktop.h"
 #include "shell/window1.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
@@ -16,13 +17,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         setenv("XDG_CONFIG_HOME", mkdtemp(pattern.data()), 1);
         return pattern;
     }();
-    std::ofstream(folder + "/com.bellwick.norvane.prefs", std::ios::binary)
-        .write(reinterpret_cast<const char *>(data), static_cast<std::streamsize>(size));
+    // Without separators, no line names a folder: a watch that is on would work on it in earnest.
+    std::string text(reinterpret_cast<const char *>(data), size);
+    std::replace(text.begin(), text.end(), '/', '_');
+    std::ofstream(folder + "/com.bellwick.norvane.prefs", std::ios::binary) << text;
     HeadlessDesktop desktop;
     std::string interval[2];
-    for (std::string &text : interval) {
+    for (std::string &minutes : interval) {
         Window1 &window = Window1::the();
-        text = window.timerText.Text;
+        minutes = window.timerText.Text;
         window.CheckBox1.Value = false; // the watch of a second start would run a cycle
         window.Close();
     }

@@ -13,7 +13,7 @@ namespace {
 /// The user's path made absolute; "." and ".." stay. Throws IOException when it cannot be.
 std::string absolutePath(const std::string &path) {
     std::error_code error;
-    const std::string absolute = std::filesystem::absolute(path, error).string();
+    std::string absolute = std::filesystem::absolute(path, error).string();
     if (path.empty() || error)
         throw IOException(norvane::quoted(path) + " cannot be found.");
     return absolute;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/disk.h"
+#include "framework/files/disk.h"
 #include "framework/headless/headless_desktop.h"
 
 #include <chrono>

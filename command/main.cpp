@@ -1,6 +1,6 @@
 #include "command/command_desktop.h"
 #include "command/options.h"
-#include "framework/guard.h"
+#include "framework/windows/guard.h"
 #include "shell/window1.h"
 
 #include <cstdio>

@@ -4,7 +4,7 @@
 #include "decode/letters.h"
 #include "decode/replacement_chain.h"
 #include "decode/words.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 namespace norvane {
 

@@ -1,6 +1,8 @@
 #include "decode/caption.h"
-#include "framework/desktop.h"
-#include "framework/regex.h"
+#include "decode/letters.h"
+#include "decode/timecode.h"
+#include "framework/text/regex.h"
+#include "framework/windows/desktop.h"
 #include "shell/window1.h"
 
 namespace norvane {

@@ -1,5 +1,5 @@
-#include "framework/desktop.h"
-#include "framework/regex.h"
+#include "framework/text/regex.h"
+#include "framework/windows/desktop.h"
 #include "shell/file_types.h"
 #include "shell/window1.h"
 

@@ -1,7 +1,7 @@
 #include "decode/letters.h"
 
 #include "decode/table_row.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 #include <array>
 

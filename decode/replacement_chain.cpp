@@ -2,7 +2,7 @@
 
 #include "decode/chain_table.h"
 #include "decode/rows_of_code.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 #include <bitset>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "decode/chain_table.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 #include <array>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "decode/timecode.h"
 
-#include "framework/numbers.h"
-#include "framework/text.h"
+#include "framework/text/numbers.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 #include <array>

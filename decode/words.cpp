@@ -4,7 +4,7 @@
 #include "decode/crossing_keys.h"
 #include "decode/letters.h"
 #include "decode/rows_of_code.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 #include <bit>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "decode/caption.h"
 #include "decode/replacement_chain.h"
-#include "framework/failures.h"
+#include "framework/text/failures.h"
 #include "tests/support/plain_walk.h"
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-#include "framework/guard.h"
 #include "framework/headless/headless_desktop.h"
+#include "framework/windows/guard.h"
 #include "shell/window1.h"
 #include "tests/support/plain_walk.h"
 #include "transcript/clean_up.h"

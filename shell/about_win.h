@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/controls.h"
-#include "framework/window.h"
+#include "framework/windows/controls.h"
+#include "framework/windows/window.h"
 
 namespace norvane {
 

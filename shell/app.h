@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/application.h"
+#include "framework/windows/application.h"
 
 namespace norvane {
 

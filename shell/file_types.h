@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/file_type.h"
+#include "framework/windows/file_type.h"
 
 #include <string_view>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "shell/help_article.h"
 
-#include "framework/disk.h"
+#include "framework/files/disk.h"
 
 namespace norvane {
 

@@ -1,4 +1,4 @@
-#include "framework/disk.h"
+#include "framework/files/disk.h"
 #include "framework/qt/qt_desktop.h"
 #include "shell/app.h"
 #include "shell/file_types.h"

@@ -1,4 +1,4 @@
-#include "framework/folder_item.h"
+#include "framework/files/folder_item.h"
 #include "shell/app.h"
 #include "shell/window1.h"
 

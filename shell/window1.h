@@ -1,12 +1,10 @@
 #pragma once
 
-#include "decode/letters.h"
-#include "decode/timecode.h"
-#include "framework/controls.h"
-#include "framework/folder_item.h"
-#include "framework/text.h"
-#include "framework/timer.h"
-#include "framework/window.h"
+#include "framework/files/folder_item.h"
+#include "framework/text/text.h"
+#include "framework/windows/controls.h"
+#include "framework/windows/timer.h"
+#include "framework/windows/window.h"
 
 #include <string>
 #include <string_view>

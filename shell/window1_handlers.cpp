@@ -1,4 +1,4 @@
-#include "framework/desktop.h"
+#include "framework/windows/desktop.h"
 #include "shell/app.h"
 #include "shell/help_article.h"
 #include "shell/window1.h"

@@ -1,7 +1,7 @@
 #include "decode/caption.h"
 #include "decode/letters.h"
 #include "decode/replacement_chain.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 #include "tests/support/generated.h"
 #include "tests/support/plain_walk.h"
 

@@ -1,4 +1,4 @@
-#include "framework/folder_item.h"
+#include "framework/files/folder_item.h"
 #include "tests/support/faults.h"
 #include "tests/support/scenario.h"
 

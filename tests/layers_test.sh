@@ -1,29 +1,38 @@
 #!/usr/bin/env bash
-# Holds the folders to the directions in which they may depend on each other: prints each include that
-# goes the wrong way and fails. Takes the root of the sources.
+# Holds the sources to the way in which folders build on each other: prints each include that goes
+# the wrong way and fails. Takes the root of the sources.
 set -u
 cd "$1" || exit 1
 status=0
 
-# rule FILES ALLOWED: every #include "..." in FILES must match ALLOWED.
-rule() {
-    local files=$1 allowed=$2 wrong
-    wrong=$(grep -nE '^#include "' $files | grep -vE "#include \"($allowed)\"")
+# may FILES RULE: every #include "..." in FILES must begin with one of the paths of RULE.
+may() {
+    local files=$1 rule=$2 wrong
+    wrong=$(grep -nE '^#include "' $files | grep -vE "#include \"($rule)")
     if [ -n "$wrong" ]; then
-        printf 'may include only %s:\n%s\n' "$allowed" "$wrong"
+        printf 'may include only %s:\n%s\n' "$rule" "$wrong"
         status=1
     fi
 }
 
-text='framework/(text|text_array|numbers|failures)\.h'
-decode='decode/(accent_pairs|caption|chain_table|letters|crossing_keys|replacement_chain|rows_of_code|table_row|timecode|words)\.h'
-rule 'framework/*.h framework/*.cpp' 'framework/[a-z_]+\.h'
-rule 'framework/headless/*' 'framework/[a-z_]+\.h|framework/headless/.*'
-rule "$(ls decode/*.h decode/*.cpp | grep -vE 'decode_lines|import_scc')" "$text|$decode"
-rule 'transcript/clean_up.* transcript/layout.*' "$text|$decode|transcript/(clean_up|layout)\.h"
-rule 'folders/*' 'framework/[a-z_]+\.h|shell/(window1|app)\.h|folders/.*'
+# Window code is what knows the window.
+text_code() { grep -LE '#include "(shell|framework/windows)/' $1; }
+window_code() { grep -lE '#include "(shell|framework/windows)/' $1; }
 
-qt=$(grep -lE '#include <Q' -r --include='*.h' --include='*.cpp' . | grep -vE '^\./(build|framework/qt|tests)/|^\./shell/main.cpp')
+may 'framework/text/*.h framework/text/*.cpp' 'framework/text/'
+may 'framework/files/*.h framework/files/*.cpp' 'framework/(text|files)/'
+may 'framework/windows/*.h framework/windows/*.cpp' 'framework/(text|files|windows)/'
+may 'framework/headless/*.h framework/headless/*.cpp' 'framework/(text|files|windows|headless)/'
+may 'framework/qt/*.h framework/qt/*.cpp' 'framework/(text|files|windows|qt)/'
+may "$(ls shell/*.h shell/*.cpp)" 'framework/|shell/'
+may "$(text_code 'decode/*')" 'framework/text/|decode/'
+may "$(text_code 'transcript/*')" 'framework/text/|decode/|transcript/'
+may "$(window_code 'decode/*')" 'framework/(text|files|windows)/|shell/(window1|app|file_types)\.h|decode/'
+may "$(window_code 'transcript/*')" 'framework/(text|files|windows)/|shell/(window1|app)\.h|decode/|transcript/'
+may "$(ls folders/*.cpp)" 'framework/(text|files|windows)/|shell/(window1|app)\.h|folders/'
+
+qt=$(grep -lE '#include <Q' -r --include='*.h' --include='*.cpp' framework shell decode transcript folders command bench fuzz |
+    grep -vE '^framework/qt/|^shell/main.cpp')
 if [ -n "$qt" ]; then
     printf 'Qt outside its place:\n%s\n' "$qt"
     status=1

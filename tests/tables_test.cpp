@@ -1,7 +1,7 @@
 #include "decode/accent_pairs.h"
 #include "decode/caption.h"
 #include "decode/letters.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 #include <bit>
 #include <gtest/gtest.h>

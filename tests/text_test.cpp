@@ -1,6 +1,6 @@
-#include "framework/regex.h"
-#include "framework/text.h"
-#include "framework/text_streams.h"
+#include "framework/files/text_streams.h"
+#include "framework/text/regex.h"
+#include "framework/text/text.h"
 
 #include <clocale>
 #include <cmath>

@@ -1,5 +1,5 @@
 #include "decode/timecode.h"
-#include "framework/failures.h"
+#include "framework/text/failures.h"
 #include "tests/support/plain_walk.h"
 
 #include <cmath>

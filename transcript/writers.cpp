@@ -1,4 +1,4 @@
-#include "framework/desktop.h"
+#include "framework/windows/desktop.h"
 #include "shell/window1.h"
 #include "transcript/clean_up.h"
 #include "transcript/layout.h"

@@ -1,7 +1,7 @@
 #include "framework/headless/headless_desktop.h"
 
-#include "framework/guard.h"
-#include "framework/window.h"
+#include "framework/windows/guard.h"
+#include "framework/windows/window.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/controls.h"
-#include "framework/desktop.h"
+#include "framework/windows/controls.h"
+#include "framework/windows/desktop.h"
 
 #include <cstdint>
 #include <deque>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/file_type.h"
-#include "framework/folder_item.h"
+#include "framework/files/folder_item.h"
+#include "framework/windows/file_type.h"
 
 #include <QDir>
 #include <QMessageBox>

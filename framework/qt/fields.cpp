@@ -1,6 +1,6 @@
-#include "framework/guard.h"
 #include "framework/qt/qt_text.h"
 #include "framework/qt/widgets.h"
+#include "framework/windows/guard.h"
 
 #include <QLabel>
 #include <QLineEdit>

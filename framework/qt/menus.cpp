@@ -1,7 +1,7 @@
 #include "framework/qt/menus.h"
 
-#include "framework/guard.h"
 #include "framework/qt/qt_text.h"
+#include "framework/windows/guard.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/application.h"
-#include "framework/menu.h"
+#include "framework/windows/application.h"
+#include "framework/windows/menu.h"
 
 #include <QLineEdit>
 #include <QMenuBar>

@@ -1,7 +1,7 @@
 #include "framework/qt/qt_desktop.h"
 
 #include "framework/qt/qt_text.h"
-#include "framework/window.h"
+#include "framework/windows/window.h"
 
 #include <QApplication>
 #include <QDesktopServices>

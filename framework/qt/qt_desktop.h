@@ -1,11 +1,11 @@
 #pragma once
 
-#include "framework/application.h"
-#include "framework/desktop.h"
-#include "framework/file_type.h"
 #include "framework/qt/dialogs.h"
 #include "framework/qt/pictures.h"
 #include "framework/qt/window_peer.h"
+#include "framework/windows/application.h"
+#include "framework/windows/desktop.h"
+#include "framework/windows/file_type.h"
 
 #include <QPointer>
 #include <QTimer>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/controls.h"
 #include "framework/qt/pictures.h"
+#include "framework/windows/controls.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -2,7 +2,7 @@
 
 #include "framework/qt/menus.h"
 #include "framework/qt/pictures.h"
-#include "framework/window.h"
+#include "framework/windows/window.h"
 
 #include <QWidget>
 

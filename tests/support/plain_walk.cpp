@@ -3,7 +3,7 @@
 #include "decode/accent_pairs.h"
 #include "decode/chain_table.h"
 #include "decode/letters.h"
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 namespace norvane::plain {
 

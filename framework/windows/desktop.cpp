@@ -1,4 +1,4 @@
-#include "framework/desktop.h"
+#include "framework/windows/desktop.h"
 
 #include <stdexcept>
 
@@ -41,6 +41,11 @@ Ref<FolderItem> GetSaveFolderItem(const std::string &fileType, const std::string
 
 Ref<FolderItem> SelectFolder() {
     return Desktop::current().chooseFolder();
+}
+
+// The one thing that a file asks of the desktop stands here, so that files know no windows.
+void FolderItem::Launch(bool activate) const {
+    Desktop::current().launch(path_, activate);
 }
 
 void ShowURL(const std::string &address) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/failures.h"
+#include "framework/text/failures.h"
 
 #include <memory>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/controls.h"
-#include "framework/menu.h"
-#include "framework/property.h"
+#include "framework/windows/controls.h"
+#include "framework/windows/menu.h"
+#include "framework/windows/property.h"
 
 #include <functional>
 #include <string>

@@ -1,7 +1,6 @@
-#include "framework/folder_item.h"
+#include "framework/files/folder_item.h"
 
-#include "framework/desktop.h"
-#include "framework/disk.h"
+#include "framework/files/disk.h"
 
 #include <algorithm>
 
@@ -125,10 +124,6 @@ Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
     if (!file.isOpen())
         return Ref<TextInputStream>::nil(problem);
     return Ref(std::make_shared<TextInputStream>(file.readAll()));
-}
-
-void FolderItem::Launch(bool activate) const {
-    Desktop::current().launch(path_, activate);
 }
 
 Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {

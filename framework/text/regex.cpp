@@ -1,4 +1,4 @@
-#include "framework/regex.h"
+#include "framework/text/regex.h"
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
-#include "framework/timer.h"
+#include "framework/windows/timer.h"
 
-#include "framework/desktop.h"
-#include "framework/guard.h"
+#include "framework/windows/desktop.h"
+#include "framework/windows/guard.h"
 
 #include <algorithm>
 #include <limits>

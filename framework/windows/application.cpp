@@ -1,6 +1,6 @@
-#include "framework/application.h"
+#include "framework/windows/application.h"
 
-#include "framework/guard.h"
+#include "framework/windows/guard.h"
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
-#include "framework/guard.h"
+#include "framework/windows/guard.h"
 
-#include "framework/desktop.h"
-#include "framework/failures.h"
+#include "framework/text/failures.h"
+#include "framework/windows/desktop.h"
 
 #include <new>
 #include <string>

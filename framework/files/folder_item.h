@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/ref.h"
-#include "framework/text_streams.h"
+#include "framework/files/ref.h"
+#include "framework/files/text_streams.h"
 
 #include <cstddef>
 #include <optional>

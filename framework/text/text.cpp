@@ -1,6 +1,6 @@
-#include "framework/text.h"
+#include "framework/text/text.h"
 
-#include "framework/numbers.h"
+#include "framework/text/numbers.h"
 
 #include <algorithm>
 #include <cmath>

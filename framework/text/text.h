@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/failures.h"
-#include "framework/text_array.h"
+#include "framework/text/failures.h"
+#include "framework/text/text_array.h"
 
 #include <cstddef>
 #include <string>

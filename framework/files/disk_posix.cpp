@@ -1,6 +1,6 @@
-#include "framework/disk.h"
+#include "framework/files/disk.h"
 
-#include "framework/failures.h"
+#include "framework/text/failures.h"
 
 #include <algorithm>
 #include <cerrno>

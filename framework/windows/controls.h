@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/property.h"
+#include "framework/windows/property.h"
 
 #include <functional>
 #include <string>

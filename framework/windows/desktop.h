@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/folder_item.h"
-#include "framework/timer.h"
+#include "framework/files/folder_item.h"
+#include "framework/windows/timer.h"
 
 #include <string>
 

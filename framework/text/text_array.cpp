@@ -1,6 +1,6 @@
-#include "framework/text_array.h"
+#include "framework/text/text_array.h"
 
-#include "framework/failures.h"
+#include "framework/text/failures.h"
 
 #include <algorithm>
 

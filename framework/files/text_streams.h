@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/bytes.h"
+#include "framework/files/bytes.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
-#include "framework/numbers.h"
+#include "framework/text/numbers.h"
 
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 #include <array>

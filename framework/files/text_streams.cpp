@@ -1,6 +1,6 @@
-#include "framework/text_streams.h"
+#include "framework/files/text_streams.h"
 
-#include "framework/text.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/bytes.h"
-#include "framework/text_streams.h"
+#include "framework/files/bytes.h"
+#include "framework/files/text_streams.h"
 
 #include <string>
 #include <string_view>

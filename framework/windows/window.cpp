@@ -1,7 +1,7 @@
-#include "framework/window.h"
+#include "framework/windows/window.h"
 
-#include "framework/desktop.h"
-#include "framework/guard.h"
+#include "framework/windows/desktop.h"
+#include "framework/windows/guard.h"
 
 namespace norvane {
 

@@ -123,14 +123,12 @@ class Window1 : public Window {
     void nameForScreenReaders();
 
     // decode/decode_lines.cpp, for all three modes
-    bool decodeLines(TextInputStream &stream);
-    bool stopAtBadLine(const std::string &message);
+    bool decodeLines(const TextInputStream &stream);
     void clearScreen();
 
     // transcript/writers.cpp, for all three writers
     std::string composeTranscript();
-    std::string baseName() const;
-    void writeTranscript(const FolderItem &transcriptItem, const std::string &heading,
+    void writeTranscript(const FolderItem &transcriptItem, const std::string &name,
                          const std::string &transcriptText);
     void hideProgress();
 

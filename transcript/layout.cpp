@@ -1,5 +1,8 @@
 #include "transcript/layout.h"
 
+#include "framework/text/text.h"
+#include "transcript/clean_up.h"
+
 namespace norvane {
 
 std::string layOut(Form form, const TextArray &captions, TextArray &timecodes) {
@@ -28,6 +31,21 @@ std::string layOut(Form form, const TextArray &captions, TextArray &timecodes) {
         }
     }
     return body;
+}
+
+std::string composeTranscript(Form form, TextArray &captions, TextArray &timecodes) {
+    cleanEntries(captions);
+    std::string body = layOut(form, captions, timecodes);
+    cleanTranscript(body);
+    return body;
+}
+
+std::string headingOf(const std::string &name) {
+    return "Transcripts of " + name;
+}
+
+std::string baseNameOf(const std::string &fileName) {
+    return fileName.substr(0, fileName.find('.'));
 }
 
 } // namespace norvane

@@ -1,23 +1,22 @@
 #include "framework/windows/desktop.h"
 #include "shell/window1.h"
-#include "transcript/clean_up.h"
 #include "transcript/layout.h"
 
 namespace norvane {
 
 namespace {
 constexpr const char *kTranscriptFileType = "TEXT";
-constexpr const char *kHeading = "Transcripts of ";
 } // namespace
 
 // The three writers stand below one another; what they share follows them.
 
 void Window1::doTranscTimecode() {
     const std::string transcriptText = composeTranscript();
+    const std::string baseName = baseNameOf(fileName); // a tick may change it during the dialog
     const Ref<FolderItem> transcriptItem =
-        GetSaveFolderItem(kTranscriptFileType, baseName() + ".txt");
+        GetSaveFolderItem(kTranscriptFileType, baseName + ".txt");
     if (transcriptItem) {
-        writeTranscript(*transcriptItem, kHeading + baseName(), transcriptText);
+        writeTranscript(*transcriptItem, baseName, transcriptText);
         ProgressBar1.Visible = false;
         captionArray2.clear(); // kept: on Cancel both arrays stay as they are
         timeCodeArray.clear();
@@ -29,9 +28,9 @@ void Window1::doTranscTimecode() {
 void Window1::DoTranscTimecodeFileSingle() {
     const std::string transcriptText = composeTranscript();
     const Ref<FolderItem> transcriptItem =
-        GetSaveFolderItem(kTranscriptFileType, baseName() + ".txt");
+        GetSaveFolderItem(kTranscriptFileType, baseNameOf(fileName) + ".txt");
     if (transcriptItem)
-        writeTranscript(*transcriptItem, kHeading + fileName, transcriptText);
+        writeTranscript(*transcriptItem, fileName, transcriptText);
     hideProgress();
     captionArray2.clear(); // here on Cancel as well
     timeCodeArray.clear();
@@ -39,34 +38,28 @@ void Window1::DoTranscTimecodeFileSingle() {
 
 void Window1::DoTranscTimecodeFile() {
     const std::string transcriptText = composeTranscript();
-    Ref<FolderItem> transcriptItem = GetFolderItem(destFolder + baseName() + ".txt", 0);
+    const std::string path = destFolder + baseNameOf(fileName);
+    Ref<FolderItem> transcriptItem = GetFolderItem(path + ".txt", 0);
     if (transcriptItem->Exists()) // kept: one test and no loop, so an older "_1" is replaced
-        transcriptItem = GetFolderItem(destFolder + baseName() + "_1.txt", 0);
+        transcriptItem = GetFolderItem(path + "_1.txt", 0);
     if (transcriptItem) {
-        writeTranscript(*transcriptItem, kHeading + fileName, transcriptText);
+        writeTranscript(*transcriptItem, fileName, transcriptText);
         captionArray2.clear(); // kept: timeCodeArray is the caller's to empty
     }
     hideProgress();
 }
 
 std::string Window1::composeTranscript() {
-    cleanEntries(captionArray2);
     const Form form = TimecodeBox.Value    ? Form::timecode
                       : ParagraphBox.Value ? Form::paragraph
                                            : Form::line;
-    std::string transcriptText = layOut(form, captionArray2, timeCodeArray);
-    cleanTranscript(transcriptText);
-    return transcriptText;
+    return norvane::composeTranscript(form, captionArray2, timeCodeArray);
 }
 
-std::string Window1::baseName() const {
-    return fileName.substr(0, fileName.find('.'));
-}
-
-void Window1::writeTranscript(const FolderItem &transcriptItem, const std::string &heading,
+void Window1::writeTranscript(const FolderItem &transcriptItem, const std::string &name,
                               const std::string &transcriptText) {
     const Ref<TextOutputStream> transcriptStream = transcriptItem.CreateTextFile();
-    transcriptStream->WriteLine(heading);
+    transcriptStream->WriteLine(headingOf(name));
     transcriptStream->WriteLine("");
     transcriptStream->WriteLine(transcriptText);
     transcriptStream->Close();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/files/bytes.h"
+#include "framework/text/line_reader.h"
 
 #include <memory>
 #include <string>
@@ -11,25 +12,24 @@ namespace norvane {
 /// A text file's content, read line by line. The whole file is in memory.
 class TextInputStream {
   public:
-    explicit TextInputStream(Bytes text) : text_(std::move(text)) {}
+    explicit TextInputStream(Bytes bytes) : bytes_(std::move(bytes)), lines_(bytes_.view()) {}
 
     /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the
     /// last ending is a line as well. At the end of the file, the empty text. The view holds until
     /// Close or the end of the stream.
-    std::string_view ReadLine();
+    std::string_view ReadLine() { return lines_.next(); }
 
     /// True when nothing is left to read. (C's own macro bars the shorter name.)
-    bool EndOfFile() const { return position_ == text_.size(); }
+    bool EndOfFile() const { return lines_.atEnd(); }
 
-    /// The size of the whole text in bytes.
-    std::size_t size() const { return text_.size(); }
+    /// The whole text, whatever has been read of it; the view holds as long as those of lines.
+    std::string_view text() const { return bytes_.view(); }
 
     void Close();
 
   private:
-    Bytes text_;
-    std::size_t position_ = 0;
-    std::size_t nextLineFeed_ = 0; // or the end of the text
+    Bytes bytes_;
+    LineReader lines_;
 };
 
 /// Where a stream's text goes: it counts as written when commit returns. Both throw IOException.

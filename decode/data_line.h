@@ -1,0 +1,46 @@
+#pragma once
+
+#include "framework/text/text_array.h"
+
+#include <string_view>
+#include <variant>
+#include <vector>
+
+/// A Scenarist Closed Caption file as the program reads it: lines that are not empty, the first of
+/// them a header that nobody looks at, and all others data lines.
+namespace norvane {
+
+/// The lines of a file that count, the header first: views of `text`.
+std::vector<std::string_view> keptLines(std::string_view text);
+
+/// Which line of the file `line`, a view of `text`, is: from 1, empty ones counted.
+std::size_t lineNumber(std::string_view text, std::string_view line);
+
+/// A data line: its timecode, "HH:MM:SS:FF" or with ";" before the frames where the frame numbers
+/// drop (SMPTE ST 12), and its hex text, words of four hex digits parted by blanks (CEA-608 byte
+/// pairs with odd parity). Neither is checked.
+struct DataLine {
+    std::string_view timecode;
+    std::string_view hexText;
+};
+
+/// Why a line is no data line.
+enum class Refusal { noTimecode, noTab };
+
+/// What the user is told of a refusal.
+std::string_view messageOf(Refusal refusal);
+
+/// Takes a data line apart: what stands before its first tab, and behind that up to a second one.
+/// Without two digits and a colon somewhere in it, or without a tab, it is refused.
+std::variant<DataLine, Refusal> takeApart(std::string_view line);
+
+/// Start times: moved later by the time that the hex text takes to reach a decoder's buffer, or as
+/// the file has them.
+enum class Clock { unbuffered, scc };
+
+/// Appends the start time of a data line and then its caption, each to its array. Throws
+/// OutOfBoundsException when the unbuffered clock finds fewer than four fields in the timecode, or
+/// when the codes leave a single character; kept: in that case the timecode is there already.
+void appendEntry(const DataLine &line, Clock clock, TextArray &timecodes, TextArray &captions);
+
+} // namespace norvane

@@ -130,7 +130,7 @@ void fileToTranscript(benchmark::State &state) {
         const std::string *text_;
     };
     HeadlessDesktop desktop;
-    class Window1 window;
+    Window1 window;
     const std::string text = ordinaryScc(10'000'000);
     const Ref<FolderItem> item{std::shared_ptr<FolderItem>(std::make_shared<InMemory>(&text))};
     for (auto _ : state) {

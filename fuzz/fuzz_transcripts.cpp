@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return 0;
     const std::string_view text(reinterpret_cast<const char *>(data) + 1, size - 1);
     HeadlessDesktop desktop;
-    class Window1 window;
+    Window1 window;
     window.RadioButton1.Value = (data[0] & 1U) != 0;
     window.ParagraphBox.Value = (data[0] & 2U) != 0;
     window.TimecodeBox.Value = (data[0] & 4U) != 0;

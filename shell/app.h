@@ -19,13 +19,18 @@ class App : public Application {
     bool _FileEnableHotFolder_Action(); // NOLINT
     bool _FileAboutNorvane_Action();    // NOLINT
 
-    /// Writes the nine settings of Window1 to the preference file. Throws NilObjectException when
-    /// the file cannot be created and IOException when it cannot be written.
+    /// Writes the nine settings of Window1 to the preference file, unless reading that failed.
+    /// Throws NilObjectException when the file cannot be created and IOException when it cannot be
+    /// written.
     void SavePrefs();
 
     /// Sets the controls of Window1 from the preference file, which raises their actions. Does
-    /// nothing without a readable file; what a short file lacks counts as empty.
+    /// nothing without a readable file; what a short file lacks counts as empty. Throws IOException
+    /// when the disk fails.
     void GetPrefs();
+
+  private:
+    bool prefsUnread_ = false; // the disk failed while they were read
 };
 
 /// What the process does before its first window: file types, application object, menu handlers.

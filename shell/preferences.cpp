@@ -19,7 +19,7 @@ Ref<FolderItem> preferenceFile() {
 void App::SavePrefs() {
     const Window1 &window = Window1::the();
     const Ref<FolderItem> file = preferenceFile();
-    if (!file)
+    if (!file || prefsUnread_) // what the window shows then are not the user's settings
         return;
     const Ref<TextOutputStream> stream = file->CreateTextFile();
     if (stream) {
@@ -39,10 +39,11 @@ void App::SavePrefs() {
 
 void App::GetPrefs() {
     Window1 &window = Window1::the();
+    prefsUnread_ = true;
     const Ref<FolderItem> file = preferenceFile();
-    if (!file || !file->Exists())
-        return;
-    const Ref<TextInputStream> stream = file->OpenAsTextFile();
+    const bool exists = file && file->Exists();
+    const auto stream = exists ? file->OpenAsTextFile() : Ref<TextInputStream>::nil("no file.");
+    prefsUnread_ = false;
     if (!stream)
         return;
     const auto readSwitch = [&] { return equal(stream->ReadLine(), "true"); };

@@ -1,4 +1,5 @@
 #include "framework/windows/desktop.h"
+#include "framework/windows/guard.h"
 #include "shell/app.h"
 #include "shell/help_article.h"
 #include "shell/window1.h"
@@ -11,7 +12,7 @@ constexpr int kUnfoldedHeight = 395;
 } // namespace
 
 void Window1::Event_Open() {
-    App::the().GetPrefs();
+    guarded([] { App::the().GetPrefs(); }); // a disk that fails must not leave the timer on
     hotFolder = TextField1.Text;
     destFolder = TextField2.Text;
     // Kept: a watch that the preferences switched on has had its first cycle by now and gets no

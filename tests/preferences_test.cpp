@@ -106,9 +106,10 @@ TEST_F(Preferences, AWatchThatWasOnRunsOneCycleAsDesigned) {
     EXPECT_EQ(messages(), Lines{"You must choose both a watch folder and a destination folder to "
                                 "activate the timer."});
 
-    // A cycle that fails ends the opening there: the options stay as designed.
+    // A cycle that fails ends there: all options are applied and the timer is off.
     folder.write("watch/a.scc", "header\n00:00:01:00\t13ba");
-    EXPECT_EQ(openOn(withWatch("false\nfalse\ntrue\nfalse\ntrue\n")).substr(0, 4), "LT1W");
+    EXPECT_EQ(openOn(withWatch("false\nfalse\ntrue\nfalse\ntrue\n")).substr(0, 4), "P2W ");
+    EXPECT_FALSE(window().Timer1.due());
     EXPECT_EQ(messages().size(), 1U);
     EXPECT_TRUE(folder.has("watch/a.scc"));
 }

@@ -72,8 +72,7 @@ QWidget *makeButton(PushButton &button, QWidget *parent) {
 QWidget *makeCheckBox(CheckBox &box, QWidget *parent) {
     auto *widget = new QCheckBox(toQt(box.Caption), parent);
     follow(box.Value, widget, [&box, widget] { widget->setChecked(box.Value); });
-    QObject::connect(widget, &QCheckBox::clicked,
-                     [&box](bool checked) { guarded([&] { box.Value = checked; }); });
+    QObject::connect(widget, &QCheckBox::clicked, [&box](bool checked) { box.Value = checked; });
     return widget;
 }
 
@@ -85,8 +84,7 @@ QWidget *makeRadioButton(RadioButton &button, QWidget *parent) {
         widget->setChecked(button.Value);
         widget->setAutoExclusive(true);
     });
-    QObject::connect(widget, &QRadioButton::clicked,
-                     [&button] { guarded([&] { button.Value = true; }); });
+    QObject::connect(widget, &QRadioButton::clicked, [&button] { button.Value = true; });
     return widget;
 }
 

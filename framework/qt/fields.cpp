@@ -1,6 +1,5 @@
 #include "framework/qt/qt_text.h"
 #include "framework/qt/widgets.h"
-#include "framework/windows/guard.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -34,9 +33,8 @@ QWidget *makeTextField(TextField &field, QWidget *parent) {
         const QSignalBlocker noEcho(widget);
         widget->setText(text);
     });
-    QObject::connect(widget, &QLineEdit::textChanged, [&field](const QString &text) {
-        guarded([&] { field.Text = text.toStdString(); });
-    });
+    QObject::connect(widget, &QLineEdit::textChanged,
+                     [&field](const QString &text) { field.Text = text.toStdString(); });
     return widget;
 }
 

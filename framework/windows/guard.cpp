@@ -16,11 +16,11 @@ void tell(const std::string &what) {
 
 } // namespace
 
-void guarded(const std::function<void()> &entry) {
-    if (!entry)
+void guarded(const std::function<void()> &action) {
+    if (!action)
         return;
     try {
-        entry();
+        action();
     } catch (const RuntimeException &failure) {
         tell(failure.what());
     } catch (const std::bad_alloc &) {

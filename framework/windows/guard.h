@@ -4,9 +4,9 @@
 
 namespace norvane {
 
-/// Runs an entry from the event loop: a control's action, a menu command, a tick, a window's
-/// opening or closing. A failure in it ends it there and is told in a message box; the program goes
-/// on. An empty `entry` does nothing.
-void guarded(const std::function<void()> &entry);
+/// Runs an action: a control's, whoever raised it, a menu command, a tick, a window's opening or
+/// closing. A failure in it ends it there and is told in a message box; what raised it goes on. An
+/// empty `action` does nothing.
+void guarded(const std::function<void()> &action);
 
 } // namespace norvane

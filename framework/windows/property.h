@@ -1,12 +1,16 @@
 #pragma once
 
+#include "framework/windows/guard.h"
+
 #include <functional>
 #include <utility>
 
 namespace norvane {
 
 /// A value that can be watched. An assignment that changes it first brings what is on screen in
-/// step and then raises the action; one that does not change it does nothing.
+/// step, then what the framework ties to it, and then raises the action, under a guard of its own:
+/// a failure in it is told and ends it there, and who made the assignment goes on. An assignment
+/// that changes nothing does nothing.
 template <class T>
 class Property {
   public:
@@ -20,8 +24,9 @@ class Property {
         value_ = std::move(value);
         if (shown)
             shown();
-        if (changed)
-            changed();
+        if (tied)
+            tied();
+        guarded(changed);
         return *this;
     }
     Property &operator=(const Property &) = delete;
@@ -31,7 +36,9 @@ class Property {
 
     /// The desktop's observer.
     std::function<void()> shown;
-    /// The program's observer: the control's action.
+    /// The framework's own observer: a radio button's group, a timer's wait.
+    std::function<void()> tied;
+    /// The program's observer, and its alone: the control's action.
     std::function<void()> changed;
 
   private:

@@ -9,9 +9,9 @@
 namespace norvane {
 
 Timer::Timer() {
-    Mode.changed = [this] { restart(); };
-    Enabled.changed = Mode.changed;
-    Period.changed = [this] {
+    Mode.tied = [this] { restart(); };
+    Enabled.tied = Mode.tied;
+    Period.tied = [this] {
         if (!due_)
             restart();
     };

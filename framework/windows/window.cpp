@@ -38,7 +38,7 @@ void Window::add(Control &control, const char *name, int left, int top, int widt
 }
 
 void Window::joinRadioButtons(RadioButton &button) {
-    button.Value.changed = [this, &button] {
+    button.Value.tied = [this, &button] {
         if (!button.Value)
             return;
         for (Control *control : controls_) {

@@ -27,11 +27,12 @@ may 'framework/qt/*.h framework/qt/*.cpp' 'framework/(text|files|windows|qt)/'
 may "$(ls shell/*.h shell/*.cpp)" 'framework/|shell/'
 may "$(text_code 'decode/*')" 'framework/text/|decode/'
 may "$(text_code 'transcript/*')" 'framework/text/|decode/|transcript/'
+may "$(ls explain/*.h explain/*.cpp)" 'framework/text/|decode/|transcript/|explain/'
 may "$(window_code 'decode/*')" 'framework/(text|files|windows)/|shell/(window1|app|file_types)\.h|decode/'
 may "$(window_code 'transcript/*')" 'framework/(text|files|windows)/|shell/(window1|app)\.h|decode/|transcript/'
 may "$(ls folders/*.cpp)" 'framework/(text|files|windows)/|shell/(window1|app)\.h|folders/'
 
-qt=$(grep -lE '#include <Q' -r --include='*.h' --include='*.cpp' framework shell decode transcript folders command bench fuzz |
+qt=$(grep -lE '#include <Q' -r --include='*.h' --include='*.cpp' framework shell decode transcript explain folders command bench fuzz |
     grep -vE '^framework/qt/|^shell/main.cpp')
 if [ -n "$qt" ]; then
     printf 'Qt outside its place:\n%s\n' "$qt"

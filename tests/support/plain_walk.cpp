@@ -1,31 +1,22 @@
 #include "tests/support/plain_walk.h"
 
-#include "decode/accent_pairs.h"
-#include "decode/chain_table.h"
-#include "decode/letters.h"
+#include "explain/plain_walk.h"
 #include "framework/text/text.h"
 
 namespace norvane::plain {
 
 std::string replaceCodeWords(std::string_view hexText) {
-    std::string text(hexText);
-    for (std::size_t row = kFirstWalkedRow; row <= kLastWalkedRow; ++row)
-        text = ReplaceAll(text, kReplacementChain[row - 1].key, kReplacementChain[row - 1].with);
-    return text;
+    TracedText text(hexText);
+    replaceCodeWords(text);
+    return std::string(text.text());
 }
 
 std::string caption(std::string_view hexText) {
-    std::string text = replaceCodeWords(hexText);
-    if (text.empty())
-        text = "2020";
-    const TextArray charArray = Split(text, "");
-    TextArray pairArray;
-    for (std::size_t j = 0; j + 1 < charArray.size(); j += 2)
-        pairArray.Append(std::string(charArray[j]).append(charArray[j + 1]));
-    std::string joined = convertSCC2Letters(pairArray[0]);
-    for (std::size_t pair = 1; pair < pairArray.size(); ++pair)
-        joined += convertSCC2Letters(pairArray[pair]);
-    return ReplaceAll(joined, "****", " ");
+    TracedText text(hexText);
+    replaceCodeWords(text);
+    if (!readLetters(text))
+        throw OutOfBoundsException("no pair");
+    return std::string(text.text());
 }
 
 std::string returnTimecode(double seconds) {
@@ -49,14 +40,10 @@ std::string returnTimecode(double seconds) {
     return hoursText + ":" + minutesText + ":" + secondsText;
 }
 
-std::string cleanTranscript(std::string text) {
-    text = ReplaceAll(text, "]\\t ", "]\\t");
-    for (const TableRow &pair : kAccentPairs)
-        text = ReplaceAllB(text, pair.key, pair.with);
-    text = ReplaceAll(text, "|", " ");
-    text = ReplaceAll(text, "  ", " ");
-    text = ReplaceAll(text, "  ", " ");
-    return ReplaceAll(text, "  ", " ");
+std::string cleanTranscript(std::string_view transcript) {
+    TracedText text(transcript);
+    cleanTranscript(text);
+    return std::string(text.text());
 }
 
 } // namespace norvane::plain

@@ -3,7 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// The yardstick: the tables walked row by row, on everything, as they are written down.
+/// The yardstick: the tables walked row by row, on everything, as they are written down. Where the
+/// program has such a walk of its own, these are its results.
 namespace norvane::plain {
 
 /// Rows 2 to 581 of the chain.
@@ -16,6 +17,6 @@ std::string caption(std::string_view hexText);
 std::string returnTimecode(double seconds);
 
 /// The text passes over a composed transcript.
-std::string cleanTranscript(std::string text);
+std::string cleanTranscript(std::string_view transcript);
 
 } // namespace norvane::plain

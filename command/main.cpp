@@ -15,7 +15,7 @@ std::string absolutePath(const std::string &path) {
     std::error_code error;
     std::string absolute = std::filesystem::absolute(path, error).string();
     if (path.empty() || error)
-        throw IOException(norvane::quoted(path) + " cannot be found.");
+        throw IOException(inQuotes(path) + " cannot be found.");
     return absolute;
 }
 
@@ -40,7 +40,7 @@ Ref<FolderItem> target(const std::string &file, const Options &options) {
                                  .string();
     Ref<FolderItem> item = GetFolderItem(path, 0);
     if (item->Exists() && !options.force)
-        throw IOException("“" + path + "” exists already; --force replaces it.");
+        throw IOException(inQuotes(path) + " exists already; --force replaces it.");
     return item;
 }
 

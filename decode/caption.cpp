@@ -44,7 +44,7 @@ void appendCaption(std::string &captions, std::string_view hexText) {
     if (text.empty())
         text = kTwoBlanks;
     if (characterSize(text) == text.size())
-        throw OutOfBoundsException("the codes " + quoted(hexText) +
+        throw OutOfBoundsException("the codes " + startInQuotes(hexText) +
                                    " leave no pair of characters.");
     const TableRow &marks = kReplacementChain[kMarksRow - 1];
     captions += ReplaceAll(letters(text), marks.key, marks.with);

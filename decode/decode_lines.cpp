@@ -36,7 +36,7 @@ bool Window1::decodeLines(const TextInputStream &stream) {
         } catch (const OutOfBoundsException &failure) {
             // Only here it is known where the text stood that text code could not take.
             throw OutOfBoundsException("data line " + std::to_string(i) + " of " +
-                                       quoted(fileName) + ": " + failure.what());
+                                       inQuotes(fileName) + ": " + failure.what());
         }
     }
     return true;

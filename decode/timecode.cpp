@@ -23,8 +23,9 @@ std::array<double, count> fieldsOf(std::string_view timecode) {
     for (std::size_t field = 0; field < count; ++field) {
         const std::size_t colon = std::min(rest.find(':'), rest.size());
         if (colon == rest.size() && field + 1 < count) {
-            throw OutOfBoundsException("the timecode " + quoted(timecode) + " has fewer than " +
-                                       (count == 4 ? "four" : "three") + " fields.");
+            throw OutOfBoundsException("the timecode " + startInQuotes(timecode) +
+                                       " has fewer than " + (count == 4 ? "four" : "three") +
+                                       " fields.");
         }
         fields[field] = Val(rest.substr(0, colon));
         rest.remove_prefix(std::min(colon + 1, rest.size()));

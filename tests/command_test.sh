@@ -39,7 +39,7 @@ expect 1 "$timecodes" "three.scc: This could not be finished: data line 1 of “
 blank.scc: This SCC file does not appear to be formatted correctly. It needs to have a tab between the timecode and the hexidecimal caption code.
 gone.scc: This could not be finished: “$folder/gone.scc” cannot be opened: No such file or directory.
 folder.scc: This could not be finished: “$folder/folder.scc” is a folder.
-fifo.scc: This could not be finished: “$folder/fifo.scc” is no ordinary file.
+fifo.scc: This could not be finished: “$folder/fifo.scc” is not a regular file.
 out.txt: This file does not have the .scc extension.\n" three.scc blank.scc gone.scc folder.scc fifo.scc out.txt show.scc
 timeout 20 "$program" nul.scc >out.txt || failed=1
 long=$(printf '%300s' | tr ' ' '1')

@@ -182,8 +182,8 @@ TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
     const std::pair<std::function<void()>, std::string> rows[] = {
         {[&] { std::filesystem::create_directory(path); }, "” is a folder."},
         {[&] { std::filesystem::create_symlink("/", path); }, "” is a folder."},
-        {[&] { mkfifo(path.c_str(), 0600); }, "” is no ordinary file."},
-        {[&] { std::filesystem::create_symlink("/dev/zero", path); }, "” is no ordinary file."},
+        {[&] { mkfifo(path.c_str(), 0600); }, "” is not a regular file."},
+        {[&] { std::filesystem::create_symlink("/dev/zero", path); }, "” is not a regular file."},
         {[&] { std::filesystem::create_symlink("none", path); },
          "” cannot be opened: No such file or directory."},
         {[&] { std::filesystem::create_symlink("a.scc", path); },

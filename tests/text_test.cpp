@@ -22,6 +22,15 @@ Pieces piecesOf(const TextArray &array) {
     return pieces;
 }
 
+TEST(Text, NamesInMessages) {
+    EXPECT_EQ(inQuotes("\x01\x1F a\n~\x7F\xC2\x80\xC2\x9F\xC2\xA0é\x80\x9F\xA0\xFF"),
+              "“?? a?~???\xC2\xA0é??\xA0\xFF”");
+    const std::string forty(40, '\x1B');
+    EXPECT_EQ(inQuotes("é" + forty), "“é" + std::string(40, '?') + "”");
+    EXPECT_EQ(startInQuotes(forty), "“" + std::string(40, '?') + "”");
+    EXPECT_EQ(startInQuotes("é" + forty), "“é" + std::string(39, '?') + "…”");
+}
+
 TEST(Text, ValReadsTheLeadingNumber) {
     const double infinite = std::numeric_limits<double>::infinity();
     const struct {

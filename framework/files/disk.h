@@ -31,7 +31,7 @@ std::string preferencesFolder();
 /// The folder of the running program, not ending in a separator; empty when that cannot be told.
 std::string programFolder();
 
-/// A regular file open for reading. Moves, does not copy.
+/// A regular file open for reading.
 class InputFile {
   public:
     /// Opens `path`. When it is no regular file or cannot be opened, the file is not open and

@@ -1,6 +1,7 @@
 #include "framework/files/disk.h"
 
 #include "framework/text/failures.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -30,13 +31,9 @@ constexpr const char *kTemporaryPrefix = ".norvane-";
 constexpr const char *kTemporarySuffix = ".part";
 
 constexpr const char *kIsFolder = " is a folder.";
-constexpr const char *kNotOrdinary = " is no ordinary file.";
+constexpr const char *kNotOrdinary = " is not a regular file.";
 
 [[maybe_unused]] constexpr const char *kOpenFiles = "/proc/self/fd/";
-
-std::string quoted(const std::string &path) {
-    return "“" + path + "”";
-}
 
 std::string reason(int error) {
     return std::generic_category().message(error);
@@ -148,15 +145,15 @@ std::string programFolder() {
 InputFile::InputFile(const std::string &path, std::string &problem) : path_(path) {
     // Opening a FIFO or a device is already an act: a writer may wait for it, a tape may move.
     if (kindOf(path) == Kind::other) {
-        problem = quoted(path) + kNotOrdinary;
+        problem = inQuotes(path) + kNotOrdinary;
         return;
     }
     const int handle = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     struct stat status {};
     if (handle < 0 || fstat(handle, &status) != 0) {
-        problem = quoted(path) + " cannot be opened: " + reason(errno) + ".";
+        problem = inQuotes(path) + " cannot be opened: " + reason(errno) + ".";
     } else if (!S_ISREG(status.st_mode)) {
-        problem = quoted(path) + (S_ISDIR(status.st_mode) ? kIsFolder : kNotOrdinary);
+        problem = inQuotes(path) + (S_ISDIR(status.st_mode) ? kIsFolder : kNotOrdinary);
     } else {
         handle_ = handle;
         size_ = static_cast<std::size_t>(status.st_size);
@@ -177,7 +174,7 @@ bool InputFile::readSome(Bytes &bytes) {
         count = read(handle_, bytes.rest(), bytes.restSize());
     } while (count < 0 && errno == EINTR);
     if (count < 0)
-        throw IOException(quoted(path_) + " cannot be read: " + reason(errno) + ".");
+        throw IOException(inQuotes(path_) + " cannot be read: " + reason(errno) + ".");
     bytes.fill(static_cast<std::size_t>(count));
     return count > 0;
 }
@@ -195,11 +192,11 @@ Bytes InputFile::readAll() {
 NewFile::NewFile(std::string path, std::string &problem) : path_(behindLinks(std::move(path))) {
     const Kind kind = kindOf(path_);
     if (kind == Kind::folder || kind == Kind::other) {
-        problem = quoted(path_) + (kind == Kind::folder ? kIsFolder : kNotOrdinary);
+        problem = inQuotes(path_) + (kind == Kind::folder ? kIsFolder : kNotOrdinary);
         return;
     }
     if (kind == Kind::file && access(path_.c_str(), W_OK) != 0) {
-        problem = quoted(path_) + " cannot be replaced: " + reason(errno) + ".";
+        problem = inQuotes(path_) + " cannot be replaced: " + reason(errno) + ".";
         return;
     }
     removeLeftovers(folderOf(path_));
@@ -214,7 +211,7 @@ NewFile::NewFile(std::string path, std::string &problem) : path_(behindLinks(std
     if (isOpen())
         flock(handle_, LOCK_EX | LOCK_NB); // see removeLeftovers
     else
-        problem = quoted(path_) + " cannot be created: " + reason(errno) + ".";
+        problem = inQuotes(path_) + " cannot be created: " + reason(errno) + ".";
 }
 
 NewFile::~NewFile() {
@@ -260,7 +257,7 @@ void NewFile::commit() {
 }
 
 void NewFile::fail(int error) {
-    throw IOException(quoted(path_) + " cannot be written: " + reason(error) + ".");
+    throw IOException(inQuotes(path_) + " cannot be written: " + reason(error) + ".");
 }
 
 void surviveSizeLimits() {
@@ -273,7 +270,7 @@ void writeAll(int handle, std::string_view bytes, const std::string &what) {
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
-            throw IOException(quoted(what) + " cannot be written: " + reason(errno) + ".");
+            throw IOException(inQuotes(what) + " cannot be written: " + reason(errno) + ".");
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
 }

@@ -1,6 +1,7 @@
 #include "framework/files/folder_item.h"
 
 #include "framework/files/disk.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 
@@ -67,7 +68,8 @@ std::size_t FolderItem::Count() const {
 
 Ref<FolderItem> FolderItem::Item(std::size_t index) const {
     if (index < 1 || index > Count())
-        return Ref<FolderItem>::nil("“" + path_ + "” has no item " + std::to_string(index) + ".");
+        return Ref<FolderItem>::nil(inQuotes(path_) + " has no item " + std::to_string(index) +
+                                    ".");
     return Ref(std::make_shared<FolderItem>(withEndSeparator(path_) + listing()[index - 1]));
 }
 
@@ -75,8 +77,7 @@ Ref<FolderItem> FolderItem::Child(std::string_view name) const {
     const std::string_view outlawed{"/\0", 2};
     if (!Directory() || name.empty() || name == "." || name == ".." ||
         name.find_first_of(outlawed) != std::string_view::npos)
-        return Ref<FolderItem>::nil("“" + path_ + "” can have no item “" + std::string(name) +
-                                    "”.");
+        return Ref<FolderItem>::nil(inQuotes(path_) + " can have no item " + inQuotes(name) + ".");
     return Ref(std::make_shared<FolderItem>(withEndSeparator(path_).append(name)));
 }
 
@@ -130,9 +131,9 @@ Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {
     if (path.empty())
         return Ref<FolderItem>::nil("No folder or file was named.");
     if (!path.starts_with(kSeparator) || path.find('\0') != std::string::npos)
-        return Ref<FolderItem>::nil("“" + path + "” is no full path of a folder or file.");
+        return Ref<FolderItem>::nil(inQuotes(path) + " is no full path of a folder or file.");
     if (disk::kindOf(parentOf(withoutEndSeparator(path))) != disk::Kind::folder)
-        return Ref<FolderItem>::nil("“" + path + "” is in a folder that does not exist.");
+        return Ref<FolderItem>::nil(inQuotes(path) + " is in a folder that does not exist.");
     return Ref(std::make_shared<FolderItem>(path));
 }
 

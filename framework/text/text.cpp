@@ -146,16 +146,29 @@ bool isAscii(std::string_view text) {
     return all < 0x80;
 }
 
-std::string quoted(std::string_view text) {
-    constexpr std::size_t kMostCharacters = 40;
+std::string inQuotes(std::string_view text) {
     std::string result = "“";
-    for (std::size_t characters = 0; !text.empty() && characters < kMostCharacters; ++characters) {
+    while (!text.empty()) {
         const std::size_t size = characterSize(text);
-        const bool control = static_cast<unsigned char>(text[0]) < ' ' || text[0] == '\x7F';
+        const auto last = static_cast<unsigned char>(text[size - 1]);
+        const bool control = size == 1 ? last < ' ' || (last >= 0x7F && last < 0xA0)
+                                       : size == 2 && text[0] == '\xC2' && last < 0xA0;
         result += control ? std::string_view("?") : text.substr(0, size);
         text.remove_prefix(size);
     }
-    return result + (text.empty() ? "”" : "…”");
+    return result + "”";
+}
+
+std::string startInQuotes(std::string_view text) {
+    constexpr std::size_t kMostCharacters = 40;
+    std::size_t end = 0;
+    for (std::size_t characters = 0; end < text.size() && characters < kMostCharacters;
+         ++characters)
+        end += characterSize(text.substr(end));
+    std::string result = inQuotes(text.substr(0, end));
+    if (end < text.size())
+        result.insert(result.size() - std::string_view("”").size(), "…");
+    return result;
 }
 
 std::string Chr(int code) {

@@ -14,7 +14,7 @@ fail() {
 }
 
 quietly cmake --build "$build"
-(cd "$build" && quietly cpack -G DEB -B "$work")
+package "$build" "$work"
 deb=$(echo "$work"/norvane_*.deb)
 dpkg-deb -x "$deb" "$work/root"
 usr=$work/root/usr

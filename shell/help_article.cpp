@@ -4,9 +4,6 @@
 
 namespace norvane {
 
-namespace {
-
-/// Everything but what a path in an address may hold as it is, as %XX.
 std::string fileAddress(const std::string &path) {
     constexpr std::string_view kPlain = "/-._~";
     constexpr std::string_view kHex = "0123456789ABCDEF";
@@ -22,8 +19,6 @@ std::string fileAddress(const std::string &path) {
     }
     return address;
 }
-
-} // namespace
 
 std::string helpArticleAddress() {
 #ifdef NORVANE_HELP_ADDRESS

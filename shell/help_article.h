@@ -8,4 +8,7 @@ namespace norvane {
 /// program, as a file: address.
 std::string helpArticleAddress();
 
+/// The file: address of an absolute path; what an address may not hold as it is stands as %XX.
+std::string fileAddress(const std::string &path);
+
 } // namespace norvane

@@ -68,13 +68,7 @@ TEST_F(HotFolder, ACycleTakesSccNamesAndCopiesAll) {
     folder.write("watch/sub/inner.scc", "not entered");
     folder.write("dest/show.txt", "older");
     folder.write("dest/show_1.txt", "older");
-    desktop.takeLog();
-    desktop.advance(kInterval);
-    // The bar is in view for the first file only.
-    EXPECT_EQ(desktop.takeLog(),
-              (Lines{"ProgressText shown", "ProgressText hidden", "ProgressBar1 hidden",
-                     "ProgressText shown", "ProgressText hidden", "ProgressText shown",
-                     "ProgressText hidden", "ProgressText shown", "ProgressText hidden"}));
+    EXPECT_EQ(wait(), Lines{});
     EXPECT_EQ(folder.read("dest/show.txt"), "older");
     EXPECT_EQ(folder.read("dest/show_1.txt"),
               hiTranscript("show.scc", {"00:00:01.33", "00:00:02.33"}));
@@ -110,11 +104,28 @@ TEST_F(HotFolder, ABadFileHoldsUpThoseBehindItAndItsTimecodesPileUp) {
     EXPECT_EQ(wait(), told);
     EXPECT_EQ(window().timeCodeArray.size(), 3U);
     EXPECT_TRUE(folder.has("watch/b.scc") && folder.has("watch/c.scc"));
-    EXPECT_EQ(window().ProgressText.Text.get(), "");
-    EXPECT_FALSE(window().ProgressBar1.Visible);
 
     std::filesystem::remove(folder.path("watch/b.scc"));
-    EXPECT_EQ(wait(), Lines{});
+    desktop.advance(kInterval);
+    EXPECT_EQ(seen(), R"(
+ProgressBar1 65536 of 65536
+ProgressText "Copying SCC files..."
+ProgressText ""
+ProgressText "Reading SCC File..."
+ProgressBar1 0 of 65536
+ProgressBar1 16384 of 65536
+ProgressBar1 repainted
+ProgressBar1 32768 of 65536
+ProgressBar1 repainted
+ProgressBar1 49152 of 65536
+ProgressBar1 repainted
+ProgressBar1 65536 of 65536
+ProgressBar1 repainted
+ProgressText "Done Writing SCC Transcripts"
+ProgressBar1 0 of 65536
+ProgressText "Done Writing SCC Transcripts" hidden
+ProgressBar1 0 of 65536 hidden
+)");
     EXPECT_EQ(folder.read("dest/c.txt"),
               hiTranscript("c.scc", {"00:00:02.33", "00:00:02.33", "00:00:02.33", "03:00:00.33"}));
     input("d.scc", {hiLine("00:00:07:00")});
@@ -234,12 +245,12 @@ TEST_F(HotFolder, FaultsInMidCycleLoseNoInput) {
         input("a.scc", {hiLine("00:00:01:00")});
         input("b.scc", {hiLine("00:00:02:00")});
         input("c.scc", {hiLine("00:00:03:00")});
-        window().ProgressBar1.repaint = [&](bool) {
-            if (window().fileName == "b.scc")
+        desktop.whenSeen = [&](const std::string &line) {
+            if (line == "ProgressText \"Reading SCC File...\"" && window().fileName == "b.scc")
                 row.breakIt();
         };
         EXPECT_EQ(wait(), Lines{failed(row.problem)});
-        window().ProgressBar1.repaint = nullptr;
+        desktop.whenSeen = nullptr;
         row.mendIt();
         EXPECT_EQ(folder.read("watch/b.scc"), sccFile({hiLine("00:00:02:00")}));
         EXPECT_EQ(folder.read("watch/c.scc"), sccFile({hiLine("00:00:03:00")}));
@@ -290,9 +301,10 @@ TEST_F(HotFolder, FoldersThatAreMissingOrNone) {
     std::filesystem::rename(folder.path("watch"), folder.path("away"));
     EXPECT_EQ(wait(), Lines{});
     window().ProgressBar1.Visible = false;
+    window().captionArray2.Append("of an earlier run");
     EXPECT_EQ(cycle(), Lines{"Could not locate the Watch folder. Please use the Browse button "
                              "and reselect it."});
-    EXPECT_TRUE(window().ProgressBar1.Visible);
+    EXPECT_TRUE(window().ProgressBar1.Visible && window().captionArray2.empty());
     folder.write("watch", "a file");
     EXPECT_EQ(wait(), Lines{});
     window().hotFolder = folder.path("none/at all/");
@@ -336,14 +348,17 @@ TEST_F(HotFolder, TheSwitchAndItsTimer) {
     EXPECT_EQ(watch(), Lines{kNoTimecode});
     // The pause is counted from the end of a cycle, and no tick comes while one waits for its
     // user, in whichever cycle it is.
-    desktop.whileMessage = [this](const std::string &) { desktop.advance(100 * kInterval); };
+    desktop.whenSeen = [this](const std::string &line) {
+        if (line.starts_with("message "))
+            desktop.advance(100 * kInterval);
+    };
     for (int cycle = 0; cycle < 3; ++cycle) {
         desktop.advance(kInterval - 1);
         EXPECT_EQ(messages(), Lines{});
         desktop.advance(1);
         EXPECT_EQ(messages(), Lines{kNoTimecode}) << cycle;
     }
-    desktop.whileMessage = nullptr;
+    desktop.whenSeen = nullptr;
 
     // The wait in progress keeps its length.
     desktop.type(window().timerText, "0.5");
@@ -371,12 +386,17 @@ TEST_F(HotFolder, TheCommandThatSwitchesTheWatch) {
     desktop.answerFolder(folder.item("watch"));
     desktop.answerFolder(folder.item("dest"));
     command();
-    EXPECT_EQ(
-        desktop.takeLog(),
-        (Lines{std::string("message ") + kBothFolders, "message Please select a folder to watch.",
-               "folder dialog", "message Please select a destination folder for decoded files.",
-               "folder dialog"}));
-    EXPECT_EQ(window().TextField1.Text.get(), folder.path("watch/"));
+    EXPECT_EQ(seen(), R"(
+CheckBox1 on
+message You must choose both a watch folder and a destination folder to activate the timer.
+CheckBox1 off
+message Please select a folder to watch.
+folder dialog
+TextField1 "~/watch/" disabled
+message Please select a destination folder for decoded files.
+folder dialog
+TextField2 "~/dest/" disabled
+)");
     EXPECT_EQ(window().destFolder, folder.path("dest/"));
     EXPECT_FALSE(window().CheckBox1.Value || window().myWatchFolder);
 

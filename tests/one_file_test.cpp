@@ -33,16 +33,56 @@ TEST_F(OneFile, ThreeFormsAndTwoClocks) {
 }
 
 TEST_F(OneFile, WhatTheUserSees) {
-    folder.write("show.part2.scc", sccFile({line("00:00:01:00")}));
+    folder.write("show.part2.scc",
+                 sccFile({line("00:00:01:00"), line("00:00:02:00"), line("00:00:03:00")}));
+    folder.write("bad.scc", sccFile({line("00:00:01:00"), "bad"}));
+    folder.write("notes.txt", "");
+    folder.write("none.scc", "header");
     window();
     desktop.takeLog();
     decode("show.part2.scc", "show.txt");
-    EXPECT_EQ(desktop.takeLog(),
-              (Lines{"open dialog text/scc", "ProgressBar1 shown", "ProgressText shown",
-                     "save dialog TEXT show.txt", "ProgressBar1 hidden",
-                     "launch " + folder.path("show.txt"), "ProgressText hidden"}));
-    EXPECT_EQ(window().ProgressText.Text.get(), "Done Writing SCC Transcripts");
     EXPECT_EQ(window().captionArray2.size() + window().timeCodeArray.size(), 0U);
+    decode("none.scc", "");
+    for (const char *name : {"bad.scc", "notes.txt"}) {
+        desktop.answerFile(folder.item(name));
+        desktop.click(window().BevelButton1);
+    }
+    EXPECT_EQ(seen(), R"(
+open dialog text/scc
+ProgressBar1 0 of 100
+ProgressText "Reading SCC File..."
+ProgressBar1 0 of 65536
+ProgressBar1 21845 of 65536
+ProgressBar1 repainted
+ProgressBar1 43690 of 65536
+ProgressBar1 repainted
+ProgressBar1 65536 of 65536
+ProgressBar1 repainted
+save dialog TEXT show.txt
+ProgressText "Done Writing SCC Transcripts"
+ProgressBar1 0 of 65536
+ProgressBar1 0 of 65536 hidden
+launch ~/show.txt in front
+ProgressText "Done Writing SCC Transcripts" hidden
+open dialog text/scc
+ProgressBar1 0 of 65536
+ProgressText "Reading SCC File..."
+save dialog TEXT none.txt
+ProgressText "Reading SCC File..." hidden
+ProgressBar1 0 of 65536 hidden
+open dialog text/scc
+ProgressBar1 0 of 65536
+ProgressText "Reading SCC File..."
+ProgressBar1 32768 of 65536
+ProgressBar1 repainted
+ProgressBar1 65536 of 65536
+ProgressBar1 repainted
+message There does not appear to be any timecode in this file.
+ProgressText ""
+ProgressBar1 65536 of 65536 hidden
+open dialog text/scc
+message This file does not have the .scc extension.
+)");
 }
 
 TEST_F(OneFile, LinesOfEveryKindOfEnding) {
@@ -86,7 +126,9 @@ TEST_F(OneFile, BadLinesStopWithTheirMessageAndNoTranscript) {
         desktop.click(window().BevelButton1);
         EXPECT_EQ(messages(), Lines{message});
     }
+    EXPECT_EQ(window().timeCodeArray.size(), 3U) << "a timecode comes before its caption";
     folder.write("notes.txt", "");
+    window().ProgressBar1.Visible = true;
     desktop.answerFile(folder.item("notes.txt"));
     desktop.click(window().BevelButton1);
     EXPECT_EQ(messages(), Lines{"This file does not have the .scc extension."});
@@ -108,8 +150,11 @@ TEST_F(OneFile, StaleTimecodesPairWithTheNextFile) {
     EXPECT_EQ(folder.read("a.txt"),
               "Transcripts of show\n\n[00:00:01.33]\t Hi! \n\n[00:00:02.33]\t Hi! \n\n"
               "[01:00:00.33]\t Hi! \n\n\n");
-    decode("show.scc", "a.txt");
-    EXPECT_TRUE(folder.read("a.txt").starts_with("Transcripts of show\n\n[01:00:00.33]"));
+    decode("show.scc", "");
+    desktop.answerFile(HeadlessDesktop::cancel());
+    desktop.click(window().BevelButton1);
+    EXPECT_EQ(window().captionArray2.size(), 0U);
+    EXPECT_EQ(window().timeCodeArray[0], "01:00:00.33");
 }
 
 TEST_F(OneFile, NothingIsSaidOfAFileThatCannotBeOpened) {
@@ -121,6 +166,7 @@ TEST_F(OneFile, NothingIsSaidOfAFileThatCannotBeOpened) {
         desktop.click(window().BevelButton1);
     }
     EXPECT_EQ(messages(), Lines{});
+    EXPECT_EQ(window().fileName, "");
 }
 
 TEST_F(OneFile, AFailedSaveIsToldAndKeepsWhatWasThere) {

@@ -1,5 +1,6 @@
 #include "framework/headless/headless_desktop.h"
 
+#include "framework/headless/look.h"
 #include "framework/windows/guard.h"
 #include "framework/windows/window.h"
 
@@ -50,6 +51,11 @@ void HeadlessDesktop::click(RadioButton &button) {
         button.Value = true;
 }
 
+void HeadlessDesktop::click(const PopupArrow &arrow) {
+    if (canUse(arrow))
+        guarded([&] { arrow.MouseDown(); });
+}
+
 void HeadlessDesktop::type(TextField &field, const std::string &text) {
     if (canUse(field))
         field.Text = text;
@@ -73,46 +79,75 @@ void HeadlessDesktop::advance(std::int64_t milliseconds) {
     now_ = std::max(now_, end); // a message on the way may have taken longer
 }
 
+void HeadlessDesktop::note(const std::string &line) {
+    log_.push_back(line);
+    if (whenSeen)
+        whenSeen(line);
+}
+
 void HeadlessDesktop::message(const std::string &text) {
-    log_.push_back("message " + text);
-    if (whileMessage)
-        whileMessage(text);
+    note("message " + text);
 }
 
 Ref<FolderItem> HeadlessDesktop::chooseFile(const std::string &fileType) {
-    log_.push_back(std::string(kFileDialog) + " " + fileType);
+    note(std::string(kFileDialog) + " " + fileType);
     return answerTo(kFileDialog);
 }
 
 Ref<FolderItem> HeadlessDesktop::chooseSaveFile(const std::string &fileType,
                                                 const std::string &defaultName) {
-    log_.push_back(std::string(kSaveDialog) + " " + fileType + " " + defaultName);
+    note(std::string(kSaveDialog) + " " + fileType + " " + defaultName);
     return answerTo(kSaveDialog);
 }
 
 Ref<FolderItem> HeadlessDesktop::chooseFolder() {
-    log_.emplace_back(kFolderDialog);
+    note(kFolderDialog);
     return answerTo(kFolderDialog);
 }
 
-void HeadlessDesktop::launch(const std::string &path, bool /*activate*/) {
-    log_.push_back("launch " + path);
+void HeadlessDesktop::launch(const std::string &path, bool activate) {
+    note("launch " + path + (activate ? " in front" : ""));
 }
 
 void HeadlessDesktop::showURL(const std::string &address) {
-    log_.push_back("url " + address);
+    note("url " + address);
 }
 
 void HeadlessDesktop::add(Window &window) {
     for (Control *control : window.controls()) {
-        control->Visible.shown = [this, control] {
-            log_.push_back(control->Name + (control->Visible ? " shown" : " hidden"));
+        const auto seen = [this, control] { note(control->Name + stateOf(*control)); };
+        const auto changed = [seen, control] {
+            if (control->Visible)
+                seen();
         };
+        control->Visible.shown = seen;
+        control->Enabled.shown = changed;
+        control->repaint = [this, control](bool immediately) {
+            if (control->Visible && immediately)
+                note(control->Name + " repainted");
+        };
+        if (auto *box = dynamic_cast<CheckBox *>(control))
+            box->Value.shown = changed;
+        if (auto *button = dynamic_cast<RadioButton *>(control))
+            button->Value.shown = changed;
+        if (auto *field = dynamic_cast<TextField *>(control))
+            field->Text.shown = changed;
+        if (auto *label = dynamic_cast<Label *>(control))
+            label->Text.shown = changed;
+        if (auto *arrow = dynamic_cast<PopupArrow *>(control))
+            arrow->Facing.shown = changed;
+        if (auto *bar = dynamic_cast<ProgressBar *>(control)) {
+            bar->Value.shown = changed;
+            bar->Maximum.shown = changed;
+        }
     }
+    window.Height.shown = [this, &window] {
+        note(window.Title + " " + std::to_string(window.Height));
+    };
 }
 
 void HeadlessDesktop::show(Window &window) {
-    log_.push_back("show " + window.Title);
+    note("show " + window.Title);
 }
 
 void HeadlessDesktop::remove(Window & /*window*/) {}

@@ -26,8 +26,9 @@ class HeadlessDesktop : public Desktop {
     static Ref<FolderItem> cancel() { return Ref<FolderItem>::nil("the dialog was cancelled."); }
 
     /// What the user saw since the last call, in order: a line "message TEXT", "open dialog TYPE",
-    /// "save dialog TYPE NAME", "folder dialog", "launch PATH", "url ADDRESS", "show TITLE" each,
-    /// and "CONTROL shown" or "CONTROL hidden" for controls of opened windows.
+    /// "save dialog TYPE NAME", "folder dialog", "launch PATH", "launch PATH in front", "url
+    /// ADDRESS" or "show TITLE" each; and of opened windows "TITLE HEIGHT", "CONTROL repainted" (at
+    /// once) and "CONTROL STATE" after a change of what is in view, with the words of look.h.
     std::vector<std::string> takeLog();
 
     /// Dialogs that no answer stood ready for, answers that no dialog took, and clicks on what
@@ -38,13 +39,14 @@ class HeadlessDesktop : public Desktop {
     void click(const Button &button);
     void click(CheckBox &box);
     void click(RadioButton &button);
+    void click(const PopupArrow &arrow);
     void type(TextField &field, const std::string &text);
 
     /// Moves time on, with the ticks that fall due, in their order.
     void advance(std::int64_t milliseconds);
 
-    /// Run while each message box is up.
-    std::function<void(const std::string &text)> whileMessage;
+    /// Run when a line of the log is seen, while a dialog or a message box is up.
+    std::function<void(const std::string &line)> whenSeen;
 
     void message(const std::string &text) override;
     Ref<FolderItem> chooseFile(const std::string &fileType) override;
@@ -69,6 +71,7 @@ class HeadlessDesktop : public Desktop {
         std::string dialog;
         Ref<FolderItem> item;
     };
+    void note(const std::string &line);
     Ref<FolderItem> answerTo(const std::string &dialog);
     bool canUse(const Control &control);
 

@@ -58,6 +58,13 @@ void Scenario::decode(const std::string &name, const std::string &saveAs) {
     desktop.click(window().BevelButton1);
 }
 
+std::string Scenario::seen() {
+    std::string text = "\n";
+    for (const std::string &line : desktop.takeLog())
+        text += line + "\n";
+    return ReplaceAllB(text, folder.path(), "~/");
+}
+
 Lines Scenario::messages() {
     constexpr std::string_view kMessage = "message ";
     Lines messages;

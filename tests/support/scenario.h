@@ -53,6 +53,9 @@ class Scenario : public testing::Test {
     /// "".
     void decode(const std::string &name, const std::string &saveAs);
 
+    /// The log since the last call, a line each below an empty one, with "~/" for the folder.
+    std::string seen();
+
     /// The messages of the log, cleared by the call; what else was seen is dropped.
     Lines messages();
 

@@ -13,6 +13,7 @@ namespace {
 
 struct Run {
     double seconds = 0;
+    double processorSeconds = 0;
     long peakKiB = 0;
     bool succeeded = false;
 };
@@ -32,7 +33,11 @@ Run timed(const std::string &command, const char *out) {
     rusage usage{};
     wait4(child, &status, 0, &usage);
     const std::chrono::duration<double> duration = std::chrono::steady_clock::now() - start;
-    return {duration.count(), usage.ru_maxrss, WIFEXITED(status) && WEXITSTATUS(status) == 0};
+    const auto secondsOf = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return {duration.count(), secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime),
+            usage.ru_maxrss, WIFEXITED(status) && WEXITSTATUS(status) == 0};
 }
 
 double median(std::vector<double> values) {
@@ -42,14 +47,15 @@ double median(std::vector<double> values) {
 
 } // namespace
 
-/// compare RUNS OUT COMMAND BASE: runs both in turn and prints "RATIO PEAK": the median of
-/// COMMAND's time over BASE's of the same turn, and COMMAND's peak memory in MiB. Fails when one of
-/// them fails.
+/// compare RUNS OUT COMMAND BASE: runs both in turn and prints "WALL PROCESSOR PEAK": the medians
+/// of COMMAND's times over BASE's of the same turn, and COMMAND's peak memory in MiB. Fails when
+/// one of them fails.
 int main(int argc, char **argv) {
     const int runs = argc == 5 ? std::atoi(argv[1]) : 0;
     if (runs <= 0)
         return 2;
-    std::vector<double> ratios;
+    std::vector<double> wall;
+    std::vector<double> processor;
     long peakKiB = 0;
     for (int run = -1; run < runs; ++run) { // the first warms up
         const Run command = timed(argv[3], argv[2]);
@@ -58,10 +64,12 @@ int main(int argc, char **argv) {
             return 1;
         if (run < 0)
             continue;
-        ratios.push_back(command.seconds / base.seconds);
+        wall.push_back(command.seconds / base.seconds);
+        processor.push_back(command.processorSeconds / base.processorSeconds);
         peakKiB = std::max(peakKiB, command.peakKiB);
     }
     constexpr double kKiBPerMiB = 1024;
-    std::printf("%.2f %.1f\n", median(ratios), static_cast<double>(peakKiB) / kKiBPerMiB);
+    std::printf("%.2f %.2f %.1f\n", median(wall), median(processor),
+                static_cast<double>(peakKiB) / kKiBPerMiB);
     return 0;
 }

@@ -1,4 +1,4 @@
-#include "bench/ordinary_scc.h"
+#include "bench/made_scc.h"
 #include "decode/caption.h"
 #include "decode/chain_table.h"
 #include "framework/headless/headless_desktop.h"
@@ -14,12 +14,12 @@
 namespace norvane {
 namespace {
 
-/// Hex texts of ordinary captions, and how many bytes of an SCC file they stand for.
+/// Hex texts of a film, and how many bytes of an SCC file they stand for.
 struct HexTexts {
     explicit HexTexts(std::size_t count) {
-        constexpr std::size_t kTimecodeAndEnds = 14;
-        for (std::size_t caption = 0; caption < count; ++caption) {
-            texts.push_back(ordinaryHexText(caption));
+        constexpr std::size_t kTimecodeAndEnds = 16;
+        for (std::size_t line = 0; line < count; ++line) {
+            texts.push_back(made::hexText(made::Kind::film, line));
             sccBytes += texts.back().size() + kTimecodeAndEnds;
         }
     }
@@ -131,7 +131,7 @@ void fileToTranscript(benchmark::State &state) {
     };
     HeadlessDesktop desktop;
     Window1 window;
-    const std::string text = ordinaryScc(10'000'000);
+    const std::string text = made::scc(made::Kind::film, 10'000'000);
     const Ref<FolderItem> item{std::shared_ptr<FolderItem>(std::make_shared<InMemory>(&text))};
     for (auto _ : state) {
         desktop.answerFile(item);

@@ -1,6 +1,7 @@
 #include "framework/qt/qt_text.h"
 #include "framework/qt/widgets.h"
 
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -13,10 +14,22 @@ Qt::Alignment horizontal(Alignment alignment) {
     return alignment == Alignment::centred ? Qt::AlignHCenter : Qt::AlignLeft;
 }
 
+/// Its selection outlasts the time that the menu bar has the focus: the Edit items are about it.
+class FieldWidget : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+
+  protected:
+    void focusOutEvent(QFocusEvent *event) override {
+        QFocusEvent kept(QEvent::FocusOut, Qt::PopupFocusReason);
+        QLineEdit::focusOutEvent(event->reason() == Qt::MenuBarFocusReason ? &kept : event);
+    }
+};
+
 } // namespace
 
 QWidget *makeTextField(TextField &field, QWidget *parent) {
-    auto *widget = new QLineEdit(parent);
+    auto *widget = new FieldWidget(parent);
     // A field that cannot be edited still tells something, which many themes make too pale to read.
     constexpr float kOpacity = 0.65F;
     QColor colour = widget->palette().color(QPalette::Active, QPalette::Text);

@@ -79,6 +79,7 @@ void QtDesktop::show(Window &window) {
     if (!peer)
         peer = new WindowPeer(window, *application_, pictures, [this] { quit(); });
     peer->show();
+    peer->setAttribute(Qt::WA_KeyboardFocusChange); // so that the first focus is seen as well
     peer->setWindowState(peer->windowState() & ~Qt::WindowMinimized);
     peer->raise();
     peer->activateWindow();

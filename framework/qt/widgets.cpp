@@ -2,6 +2,7 @@
 
 #include "framework/qt/qt_text.h"
 
+#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFrame>
@@ -9,10 +10,20 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace norvane {
 
 namespace {
+
+constexpr const char *kRole = "accessibleRole";
+
+QAccessibleInterface *interfaceByRole(const QString & /*className*/, QObject *object) {
+    const QVariant role = object->property(kRole);
+    return role.isValid() ? new QAccessibleWidget(qobject_cast<QWidget *>(object),
+                                                  static_cast<QAccessible::Role>(role.toInt()))
+                          : nullptr;
+}
 
 /// A picture, as large as fits the area and in its top left corner.
 class PictureWidget : public QWidget {
@@ -30,9 +41,16 @@ class PictureWidget : public QWidget {
     QIcon picture_;
 };
 
+QWidget *makePicture(const QIcon &picture, QWidget *parent) {
+    auto *widget = new PictureWidget(picture, parent);
+    tellRole(widget, QAccessible::Graphic);
+    return widget;
+}
+
 QWidget *makeSeparator(QWidget *parent) {
     auto *line = new QFrame(parent);
     line->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    tellRole(line, QAccessible::Separator);
     return line;
 }
 
@@ -54,12 +72,12 @@ QWidget *widgetOfKind(Control &control, QWidget *parent, Pictures &pictures) {
     if (auto *bar = dynamic_cast<ProgressBar *>(&control))
         return makeProgressBar(*bar, parent);
     if (auto *canvas = dynamic_cast<Canvas *>(&control))
-        return new PictureWidget(pictures.find(canvas->Backdrop), parent);
+        return makePicture(pictures.find(canvas->Backdrop), parent);
     if (dynamic_cast<Separator *>(&control) != nullptr)
         return makeSeparator(parent);
     if (dynamic_cast<Listbox *>(&control) != nullptr)
         return new QListWidget(parent);
-    return new QWidget(parent);
+    throw std::logic_error("no widget is known for the control " + control.Name);
 }
 
 /// Paints at once what is marked as changed in the widget's window: nothing, when nothing is.
@@ -69,6 +87,11 @@ void paintNow(QWidget *widget) {
 }
 
 } // namespace
+
+void tellRole(QWidget *widget, QAccessible::Role role) {
+    QAccessible::installFactory(interfaceByRole);
+    widget->setProperty(kRole, role);
+}
 
 QWidget *makeWidget(Control &control, QWidget *parent, Pictures &pictures) {
     QWidget *widget = widgetOfKind(control, parent, pictures);

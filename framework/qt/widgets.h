@@ -3,6 +3,7 @@
 #include "framework/qt/pictures.h"
 #include "framework/windows/controls.h"
 
+#include <QAccessible>
 #include <QPointer>
 #include <QWidget>
 
@@ -11,7 +12,12 @@ namespace norvane {
 /// Makes the widget of a control: at the control's place in `parent`, showing the control's state
 /// from now on, and handing the user's changes to it under the guard. The control must outlive all
 /// input to the widget; the widget may go first. Whether it is visible is the window's affair.
+/// Throws std::logic_error for a control of a kind that has no widget.
 QWidget *makeWidget(Control &control, QWidget *parent, Pictures &pictures);
+
+/// Names the kind of a widget to screen readers, where they could not tell it by themselves. Before
+/// anything asks for it.
+void tellRole(QWidget *widget, QAccessible::Role role);
 
 // The widgets of the kinds, without what all kinds share.
 QWidget *makeButton(BevelButton &button, QWidget *parent);

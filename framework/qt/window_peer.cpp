@@ -3,9 +3,12 @@
 #include "framework/qt/qt_text.h"
 #include "framework/qt/widgets.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -44,6 +47,7 @@ WindowPeer::WindowPeer(Window &window, Application &application, Pictures &pictu
                        std::function<void()> quit)
     : QWidget(nullptr, flagsOf(window)), window_(window) {
     setWindowTitle(toQt(window.Title));
+    tellRole(this, QAccessible::Window);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     if (window.MenuBar != nullptr && window.MenuBarVisible) {
@@ -124,6 +128,39 @@ void WindowPeer::resizeEvent(QResizeEvent *event) {
     const QSize size = area_->size(); // the first assignment changes the area
     window_.Width = size.width();
     window_.Height = size.height();
+}
+
+/// Takes back what a window manager granted though the window offers it not.
+void WindowPeer::changeEvent(QEvent *event) {
+    QWidget::changeEvent(event);
+    Qt::WindowStates offered = Qt::WindowMinimized | Qt::WindowActive;
+    offered.setFlag(Qt::WindowMaximized, window_.MaximizeButton);
+    offered.setFlag(Qt::WindowFullScreen, window_.FullScreenButton);
+    if (event->type() == QEvent::WindowStateChange && (windowState() & ~offered))
+        setWindowState(windowState() & offered);
+}
+
+/// Return presses the button that has the focus, as the space bar does.
+void WindowPeer::keyPressEvent(QKeyEvent *event) {
+    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && !event->isAutoRepeat() && button != nullptr && !button->isCheckable())
+        button->click();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+/// A press close by an arrow, on nothing else, is a press on the arrow, which is small.
+void WindowPeer::mousePressEvent(QMouseEvent *event) {
+    constexpr QMargins kAround(4, 4, 4, 4);
+    const QPoint point = area_->mapFrom(this, event->position().toPoint());
+    for (const auto &[control, widget] : placed_) {
+        if (dynamic_cast<const PopupArrow *>(control) != nullptr && widget->isVisible() &&
+            widget->geometry().marginsAdded(kAround).contains(point)) {
+            widget->setFocus(Qt::MouseFocusReason);
+            qobject_cast<QAbstractButton *>(widget)->click();
+        }
+    }
 }
 
 void WindowPeer::closeEvent(QCloseEvent *event) {

@@ -108,6 +108,8 @@ TEST_F(Actions, EditItemsServeTheFieldWithTheFocus) {
     choose("EditSelectAll");
     EXPECT_EQ(enabledItems("EditUndo"),
               (Lines{"EditCut", "EditCopy", "EditClear", "EditSelectAll"}));
+    field->setFocus();
+    peer()->findChild<QMenuBar *>()->setFocus(Qt::MenuBarFocusReason);
     choose("EditCut");
     EXPECT_EQ(window().timerText.Text.get(), "");
     EXPECT_EQ(enabledItems("EditUndo"), (Lines{"EditUndo", "EditPaste"}));

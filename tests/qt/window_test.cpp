@@ -1,6 +1,7 @@
 #include "tests/qt/desk.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QLabel>
 #include <QSignalSpy>
 
@@ -32,6 +33,25 @@ class MainWindow : public Desk {
             EXPECT_TRUE(named || !widget->accessibleName().isEmpty() || !widget->isVisible() ||
                         control->Name == "Separator1");
         }
+    }
+
+    /// Which of the boxes for lines, timecodes and paragraphs are checked.
+    std::string boxes() {
+        std::string state;
+        for (const char *box : {"LineBox", "TimecodeBox", "ParagraphBox"})
+            state += at(box)->property("checked").toBool() ? '1' : '0';
+        return state;
+    }
+
+    void expectRadioButtons(bool first, bool second) {
+        EXPECT_EQ(window().RadioButton1.Value, first);
+        EXPECT_EQ(window().RadioButton2.Value, second);
+        EXPECT_EQ(at("RadioButton1")->property("checked").toBool(), first);
+        EXPECT_EQ(at("RadioButton2")->property("checked").toBool(), second);
+    }
+
+    QAccessibleInterface *toldOf(const char *name) {
+        return QAccessible::queryAccessibleInterface(at(name));
     }
 
     /// The controls that Tab leads through, beginning at the first.
@@ -93,54 +113,110 @@ TEST_F(MainWindow, BoxesSetEachOtherOffFromEveryState) {
     const char *kStates[][4] = {
         {"110", "001", "100", "001"}, {"100", "001", "110", "001"}, {"001", "110", "110", "110"}};
     const char *kBoxes[] = {"LineBox", "TimecodeBox", "ParagraphBox"};
-    const auto shown = [&] {
-        std::string state;
-        for (const char *box : kBoxes)
-            state += at(box)->property("checked").toBool() ? '1' : '0';
-        return state;
-    };
     const auto reach = [&](const std::string &state) {
-        if (shown() == "001")
+        if (boxes() == "001")
             click("LineBox"); // which leads to the state at the start
-        if (state == "001" || (state == "110") != (shown() == "110"))
+        if (state == "001" || (state == "110") != (boxes() == "110"))
             click(state == "001" ? "ParagraphBox" : "TimecodeBox");
-        ASSERT_EQ(shown(), state);
+        ASSERT_EQ(boxes(), state);
     };
     for (const auto &states : kStates) {
         for (std::size_t i = 0; i < 3; ++i) {
             reach(states[0]);
             at(kBoxes[i])->setFocus();
             key(Qt::Key_Space);
-            EXPECT_EQ(shown(), states[i + 1]) << states[0] << ' ' << kBoxes[i];
-            EXPECT_EQ(window().LineBox.Value, shown()[0] == '1');
-            EXPECT_EQ(window().TimecodeBox.Value, shown()[1] == '1');
-            EXPECT_EQ(window().ParagraphBox.Value, shown()[2] == '1');
+            EXPECT_EQ(boxes(), states[i + 1]) << states[0] << ' ' << kBoxes[i];
+            EXPECT_EQ(window().LineBox.Value, boxes()[0] == '1');
+            EXPECT_EQ(window().TimecodeBox.Value, boxes()[1] == '1');
+            EXPECT_EQ(window().ParagraphBox.Value, boxes()[2] == '1');
         }
     }
 }
 
 TEST_F(MainWindow, RadioButtonsMayBothBeOff) {
-    const auto expect = [&](bool first, bool second) {
-        EXPECT_EQ(window().RadioButton1.Value, first);
-        EXPECT_EQ(window().RadioButton2.Value, second);
-        EXPECT_EQ(at("RadioButton1")->property("checked").toBool(), first);
-        EXPECT_EQ(at("RadioButton2")->property("checked").toBool(), second);
-    };
     click("RadioButton2");
-    expect(false, true);
+    expectRadioButtons(false, true);
     click("RadioButton2");
-    expect(false, true);
+    expectRadioButtons(false, true);
     window().RadioButton2.Value = false;
-    expect(false, false);
+    expectRadioButtons(false, false);
     click("RadioButton1");
-    expect(true, false);
+    expectRadioButtons(true, false);
     window().RadioButton1.Value = false;
-    expect(false, false);
+    expectRadioButtons(false, false);
     window().RadioButton2.Value = true;
-    expect(false, true);
+    expectRadioButtons(false, true);
     at("RadioButton2")->setFocus();
     key(Qt::Key_Up);
-    expect(true, false);
+    expectRadioButtons(true, false);
+}
+
+TEST_F(MainWindow, ScreenReadersAreToldAndAct) {
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(peer())->role(), QAccessible::Window);
+    EXPECT_EQ(toldOf("Canvas1")->role(), QAccessible::Graphic);
+    EXPECT_EQ(toldOf("Separator1")->role(), QAccessible::Separator);
+    for (const char *switched : {"ParagraphBox", "RadioButton2"})
+        toldOf(switched)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(boxes(), "001");
+    EXPECT_FALSE(window().LineBox.Value);
+    expectRadioButtons(false, true);
+    auto *arrow = toldOf("PopupArrow1");
+    EXPECT_EQ(arrow->role(), QAccessible::Button);
+    EXPECT_TRUE(arrow->state().expandable && arrow->state().collapsed && !arrow->state().expanded);
+    for (const QString &action : arrow->actionInterface()->actionNames())
+        arrow->actionInterface()->doAction(action);
+    EXPECT_TRUE(!arrow->state().collapsed && arrow->state().expanded);
+    EXPECT_EQ(window().Height, 395);
+    EXPECT_EQ(focus(), "PopupArrow1");
+}
+
+TEST_F(MainWindow, ReturnAndTheFirstFocusServeTheKeyboard) {
+    EXPECT_EQ(focus(), "BevelButton1");
+    const QImage withFocus = at("BevelButton1")->grab().toImage();
+    at("LineBox")->setFocus();
+    EXPECT_NE(at("BevelButton1")->grab().toImage(), withFocus);
+    key(Qt::Key_Return);
+    EXPECT_EQ(boxes(), "110");
+    at("PopupArrow1")->setFocus();
+    for (const auto &[code, height] : {std::pair(Qt::Key_Return, 395), {Qt::Key_Enter, 281}}) {
+        key(code);
+        EXPECT_EQ(window().Height, height);
+    }
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "", true);
+    QApplication::sendEvent(at("PopupArrow1"), &held);
+    EXPECT_EQ(window().Height, 281);
+}
+
+TEST_F(MainWindow, TheArrowTakesPressesAroundIt) {
+    QWidget *area = at("Canvas1")->parentWidget();
+    const std::pair<QPoint, bool> kPoints[] = {{{9, 246}, true},   {{26, 263}, true},
+                                               {{8, 250}, false},  {{15, 245}, false},
+                                               {{27, 250}, false}, {{15, 264}, false}};
+    for (const auto &[point, hits] : kPoints) {
+        const int height = window().Height;
+        at("LineBox")->setFocus();
+        QTest::mouseClick(area, Qt::LeftButton, {}, point);
+        EXPECT_EQ(window().Height != height, hits) << point.x() << ' ' << point.y();
+        EXPECT_EQ(focus(), hits ? "PopupArrow1" : "LineBox");
+    }
+}
+
+TEST_F(MainWindow, NoWindowManagerMakesItLarger) {
+    const QSize size = peer()->size();
+    for (const Qt::WindowState state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+        peer()->setWindowState(state);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !(peer()->windowState() & state); }));
+    }
+    EXPECT_EQ(peer()->size(), size);
+}
+
+TEST_F(MainWindow, AControlOfAnUnknownKindIsAnError) {
+    struct : Window {
+        Control control;
+        void fill() { add(control, "Odd", 0, 0, 10, 10); }
+    } odd;
+    odd.fill();
+    EXPECT_THROW(odd.Show(), std::logic_error);
 }
 
 TEST_F(MainWindow, FieldsAndModelsStayInStep) {

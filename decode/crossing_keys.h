@@ -3,9 +3,9 @@
 #include <array>
 #include <cstddef>
 
-/// Keys that match across words. Once the chain has deleted the blanks, a key is found wherever its
-/// digits stand in a row. This automaton reads the digits of a line and knows, behind each, whether
-/// they completed a key, or else the longest beginning of a key that they end in.
+/// Keys that match across words. Once the chain has deleted the blanks, nothing parts one word's
+/// digits from the next one's. This automaton reads the digits of a line and knows, behind each,
+/// whether they completed a key, or else the longest beginning of a key that they end in.
 namespace norvane {
 
 struct CrossingKeys {

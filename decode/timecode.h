@@ -9,9 +9,9 @@ namespace norvane {
 /// compensated.
 inline constexpr double kFramesPerSecond = 30.0;
 
-/// The seconds of an SCC timecode "HH:MM:SS:FF", as the text of Str: "01:02:03:15" is "3723.5". A
-/// field that is no number counts as Val reads it; further fields are ignored. Throws
-/// OutOfBoundsException when there are fewer than four fields.
+/// The seconds of an SCC timecode "HH:MM:SS:FF", as the text of Str: "01:02:03:15" is "3723.5".
+/// Each field goes through Val; further fields are ignored. Throws OutOfBoundsException when there
+/// are fewer than four fields.
 std::string timecodeToSecondsSCC(std::string_view timecode);
 
 /// The seconds of a time "HH:MM:SS", whose seconds may have decimals, as the text of Str. Throws
@@ -22,7 +22,7 @@ std::string timeCodeToSeconds(std::string_view timecode);
 /// Never carries a rounded "60.00" into the minutes.
 std::string returnTimecode(double seconds);
 
-/// The timecode of a data line, "HH:MM:SS:FF" or "HH:MM:SS;FF", moved later by the time that its
+/// A data line's timecode, with ":" or ";" before the frames, moved later by the time that its
 /// hex text takes to arrive in the decoder's buffer: a frame for each word. As "HH:MM:SS.hh".
 /// Throws OutOfBoundsException when there are fewer than four fields.
 std::string unbufferedTimecode(std::string_view timecode, std::string_view hexText);

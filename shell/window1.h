@@ -11,8 +11,8 @@
 
 namespace norvane {
 
-/// The program's one window and its state: the options, the folders, the timer, the progress
-/// display, and every mode of decoding as a method. Methods are defined in the folder of their
+/// The program's one window and its state: its controls, the folders of the watch, what has been
+/// decoded, and every mode of decoding as a method. Methods are defined in the folder of their
 /// subject.
 class Window1 : public Window {
   public:
@@ -57,9 +57,9 @@ class Window1 : public Window {
     PushButton PushButton1;
     Listbox Listbox1;
 
-    /// The decoded text of each data line of the current file, in file order.
+    /// Decoded captions, an entry for each data line read so far.
     TextArray captionArray2;
-    /// The timecode text of the data line at the same index. It outlives a run that stopped or
+    /// Their timecodes, index by index. It outlives a run that stopped or
     /// whose save dialog was cancelled, and then pairs with the captions of the next file.
     TextArray timeCodeArray;
     std::string fileName;   // of the current file, with its extension

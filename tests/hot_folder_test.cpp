@@ -346,7 +346,7 @@ TEST_F(HotFolder, TheSwitchAndItsTimer) {
 
     folder.write("watch/bad.scc", "header\nbad");
     EXPECT_EQ(watch(), Lines{kNoTimecode});
-    // The pause is counted from the end of a cycle, and no tick comes while one waits for its
+    // The pause begins where a cycle ends, and no tick comes while one waits for its
     // user, in whichever cycle it is.
     desktop.whenSeen = [this](const std::string &line) {
         if (line.starts_with("message "))

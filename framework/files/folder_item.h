@@ -11,8 +11,8 @@
 
 namespace norvane {
 
-/// A place in the file system, where something may or may not exist. Paths and names are UTF-8
-/// text; names of other bytes pass unchanged.
+/// A place in the file system, where something may or may not exist. Paths and their names hold
+/// UTF-8; other bytes in them pass unchanged.
 class FolderItem {
   public:
     virtual ~FolderItem() = default;
@@ -38,8 +38,8 @@ class FolderItem {
     /// The item of an index from 1 to Count, in the order of the names' bytes; nil outside.
     Ref<FolderItem> Item(std::size_t index) const;
 
-    /// What is named `name` in this folder, existing or not. Nil when this is no folder, or when
-    /// the name is empty, "." or "..", or holds a separator or a NUL.
+    /// What is named `name` in this folder, existing or not. Nil when this is no folder, and for
+    /// a name that is empty, "." or ".." or has a separator or a NUL in it.
     Ref<FolderItem> Child(std::string_view name) const;
 
     /// Makes the folder. Whether it worked is not told.
@@ -59,7 +59,7 @@ class FolderItem {
     /// A stream over the file's text; nil for whatever is no readable regular file.
     virtual Ref<TextInputStream> OpenAsTextFile() const;
 
-    /// Opens the file in the application that the desktop has for it.
+    /// Hands the file to the desktop, which opens it as it opens files of this kind.
     void Launch(bool activate) const;
 
   private:
@@ -70,7 +70,7 @@ class FolderItem {
 };
 
 /// The item at an absolute path; `mode` is 0, absolute path. Nil when the path is empty or not
-/// absolute or holds a NUL, or when the folder that should hold the item does not exist.
+/// absolute or holds a NUL, or its folder is missing.
 Ref<FolderItem> GetFolderItem(const std::string &path, int mode);
 
 namespace SpecialFolder {

@@ -15,7 +15,7 @@ class TextInputStream {
     explicit TextInputStream(Bytes bytes) : bytes_(std::move(bytes)), lines_(bytes_.view()) {}
 
     /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the
-    /// last ending is a line as well. At the end of the file, the empty text. The view holds until
+    /// last ending is a line as well. Behind the last line, an empty text. The view holds until
     /// Close or the end of the stream.
     std::string_view ReadLine() { return lines_.next(); }
 

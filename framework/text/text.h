@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-/// Text operations. Text is UTF-8; bytes that are no valid UTF-8 pass unchanged and count as one
-/// character each. "Ignoring case" concerns the ASCII letters only. Nothing here depends on the C
-/// locale, and nothing throws unless its comment says so.
+/// Text operations. Text is UTF-8; a byte that is no valid UTF-8 passes unchanged and is a
+/// character of its own. "Ignoring case" concerns the ASCII letters only. Nothing here depends on
+/// the C locale, and nothing throws unless its comment says so.
 namespace norvane {
 
 /// The platform's end of line, as files have it.
@@ -20,17 +20,17 @@ inline constexpr std::string_view EndOfLine = "\n";
 #endif
 
 /// The leading number of `text`: sign, digits, fraction, exponent, as far as they go; 0 when it
-/// starts with none (a leading blank, "inf", "nan" and hex forms are none). A number too large for
-/// a double is infinite, one too small is 0.
+/// starts with none (a leading blank, "inf", "nan" and hex forms are none). What is beyond
+/// a double's range is infinite, what is too small for one is 0.
 double Val(std::string_view text);
 
-/// `value` with at most seven significant digits, no trailing zeros, and an exponent when it is
-/// below 0.0001 or needs more than seven integer digits: "59.96667", "60", "1e+07". Infinity is
+/// `value` rounded to seven significant digits, without zeros at the end, with an exponent when it
+/// is below 0.0001 or needs more than seven integer digits: "59.96667", "60", "1e+07". Infinity is
 /// "inf".
 std::string Str(double value);
 
-/// `value` by a mask of digit places: "0", "00" (at least two integer digits), "00.00" (and exactly
-/// two decimals). Rounds to the nearest; a value halfway goes by its exact binary value, ties to
+/// `value` by a mask of digit places: "0"; "00", which pads to two digits; "00.00", with two
+/// decimals as well. Rounds to the nearest; a value halfway goes by its exact binary value, ties to
 /// even. The decimal mark is a point.
 std::string Format(double value, std::string_view mask);
 

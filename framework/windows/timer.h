@@ -22,8 +22,8 @@ class Timer {
     Timer &operator=(const Timer &) = delete;
 
     Property<int> Mode{2}; // 0 off, 2 repeating
-    /// Milliseconds. A change applies from the next wait. With 0 or less the timer waits for ever,
-    /// and the wait begins when a positive one comes.
+    /// Milliseconds. A change applies from the next wait. At 0 or less the timer never ticks;
+    /// a positive Period then starts a whole wait.
     Property<std::int64_t> Period{60000};
     Property<bool> Enabled{true};
 

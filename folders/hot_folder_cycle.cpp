@@ -11,8 +11,10 @@ std::vector<std::string> copyAndList(const FolderItem &watchItem, const FolderIt
     const std::string copies = copyFolder.AbsolutePath();
     for (std::size_t i = 1; i <= watchItem.Count(); ++i) {
         const Ref<FolderItem> item = watchItem.Item(i);
-        item->CopyFileTo(*GetFolderItem(copies + item->Name(), 0));
-        if (Window1::isSccName(item->Name()))
+        const bool goes = Window1::isSccName(item->Name());
+        item->CopyFileTo(*GetFolderItem(copies + item->Name(), 0),
+                         goes ? CopyOf::whatGoes : CopyOf::whatStays);
+        if (goes)
             sourceList.push_back(item->AbsolutePath());
     }
     return sourceList;
@@ -33,6 +35,10 @@ void Window1::importSCCFolder() {
         MsgBox("Could not locate the Watch folder. Please use the Browse button and reselect it.");
         return;
     }
+
+    const std::optional<Handle> lock = watchItem->Lock();
+    if (!lock) // another program is at it
+        return;
 
     std::vector<std::string> sourceList;
     if (watchItem->Directory()) {

@@ -8,20 +8,18 @@ namespace norvane {
 
 namespace {
 
-Ref<FolderItem> preferenceFile() {
-    const Ref<FolderItem> folder = SpecialFolder::Preferences();
-    return folder ? folder->Child("com.bellwick.norvane.prefs")
-                  : Ref<FolderItem>::nil("there is no folder for preferences.");
-}
-
+constexpr const char *kFile = "com.bellwick.norvane.prefs";
 } // namespace
 
 void App::SavePrefs() {
     const Window1 &window = Window1::the();
-    const Ref<FolderItem> file = preferenceFile();
-    if (!file || prefsUnread_) // what the window shows then are not the user's settings
+    if (prefsUnread_) // what the window shows then are not the user's settings
         return;
-    const Ref<TextOutputStream> stream = file->CreateTextFile();
+    // Kept: where there is no folder, this fails, which tells the user.
+    const Ref<FolderItem> file = SpecialFolder::Preferences()->Child(kFile);
+    if (!file)
+        return;
+    const Ref<TextOutputStream> stream = file->CreatePrivateTextFile();
     if (stream) {
         const auto writeSwitch = [&](bool on) { stream->WriteLine(on ? "true" : "false"); };
         writeSwitch(window.LineBox.Value);
@@ -40,7 +38,8 @@ void App::SavePrefs() {
 void App::GetPrefs() {
     Window1 &window = Window1::the();
     prefsUnread_ = true;
-    const Ref<FolderItem> file = preferenceFile();
+    const Ref<FolderItem> folder = SpecialFolder::Preferences();
+    const auto file = folder ? folder->Child(kFile) : Ref<FolderItem>::nil("no folder.");
     const bool exists = file && file->Exists();
     const auto stream = exists ? file->OpenAsTextFile() : Ref<TextInputStream>::nil("no file.");
     prefsUnread_ = false;

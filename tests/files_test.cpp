@@ -64,8 +64,8 @@ TEST_F(Files, AFileIsWrittenWholeOrNotAtAll) {
     folder.write("source", std::string(4000, 'x'));
     {
         const FullDisk full(3000);
-        folder.item("source")->CopyFileTo(*item);
-        folder.item("source")->CopyFileTo(*folder.item("copy"));
+        folder.item("source")->CopyFileTo(*item, CopyOf::whatStays);
+        folder.item("source")->CopyFileTo(*folder.item("copy"), CopyOf::whatGoes);
     }
     EXPECT_EQ(folder.read("old.txt"), "old");
     EXPECT_EQ(folder.tree(), (Lines{"old.txt", "source"}));

@@ -1,6 +1,7 @@
 #include "tests/support/faults.h"
 #include "tests/support/scenario.h"
 
+#include <array>
 #include <random>
 
 namespace norvane {
@@ -186,11 +187,32 @@ TEST_F(Preferences, AFileThatCannotBeWrittenIsToldOfAndStays) {
     EXPECT_EQ(messages(),
               Lines{"This could not be finished: “" + preferences.path(kFile) + "” is a folder."});
 
-    // Where there can be no folder for preferences, nothing is kept and nothing said.
+    // Where there can be no folder for preferences, nothing is kept and nothing made.
     folder.write("file", "a file");
-    setenv("XDG_CONFIG_HOME", folder.path("file").c_str(), 1);
-    EXPECT_EQ(state(), "LT1 15  ");
+    const std::string noHome =
+        "there is no folder for preferences, since HOME is not the full path of one.";
+    const std::array<std::string, 3> rows[] = {
+        {"XDG_CONFIG_HOME", folder.path("file"),
+         "“" + folder.path("file") + "” is not a folder and cannot be made one."},
+        {"HOME", folder.path("file"), noHome},
+        {"HOME", folder.path("none"), noHome},
+        {"HOME", "x/y", noHome},
+    };
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    for (const auto &[variable, value, problem] : rows) {
+        setenv("XDG_CONFIG_HOME", "relative", 1);
+        setenv(variable.c_str(), value.c_str(), 1);
+        EXPECT_EQ(state(), "LT1 15  ");
+        EXPECT_EQ(messages(), Lines{});
+        closeWindow();
+        EXPECT_EQ(messages(), Lines{"This could not be finished: " + problem});
+    }
+    EXPECT_EQ(folder.tree(), Lines{"file"});
+    std::filesystem::current_path(before);
+    setenv("HOME", folder.path().c_str(), 1);
     closeWindow();
+    EXPECT_EQ(folder.tree(), (Lines{".config/", ".config/com.bellwick.norvane.prefs", "file"}));
     setenv("XDG_CONFIG_HOME", folder.path("made/for it").c_str(), 1);
     closeWindow();
     EXPECT_TRUE(folder.has("made/for it/com.bellwick.norvane.prefs"));

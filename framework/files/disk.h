@@ -1,47 +1,67 @@
 #pragma once
 
 #include "framework/files/bytes.h"
+#include "framework/files/handle.h"
+#include "framework/files/place.h"
 #include "framework/files/text_streams.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// What the program asks of the file system. Paths are UTF-8, or whatever bytes the system has;
-/// links are followed. Nothing here blocks on a FIFO or a device.
+/// What the program asks of the file system. Paths are absolute, UTF-8, or whatever bytes the
+/// system has. Links are followed as findPlace does. Nothing here blocks on a FIFO or a device.
 namespace norvane::disk {
 
-enum class Kind { missing, file, folder, other };
+enum class Kind { missing, file, folder, foreignLink, other };
 
-/// What stands at `path`; missing when that cannot be told.
+/// What stands at `path`; missing also when a folder on the way is. Throws IOException when that
+/// cannot be told, as with a failing disk.
 Kind kindOf(const std::string &path);
 
-/// The names in a folder but "." and "..", sorted by their bytes; none when it cannot be listed.
+/// The same, but `unknown` when it cannot be told.
+Kind kindOf(const std::string &path, Kind unknown);
+
+/// The folder that holds what is at `path`, which has no separator at its end; the root is its own.
+std::string folderOf(const std::string &path);
+
+/// The names in a folder but "." and "..", sorted by their bytes; none when it is no folder or may
+/// not be read. Throws IOException when reading it fails.
 std::vector<std::string> namesIn(const std::string &path);
 
-/// Makes a folder; its parent must exist. False when that failed.
-bool makeFolder(const std::string &path);
+/// Appends the names in an open folder, as the system has them; false when reading it failed.
+bool readNames(Handle folder, std::vector<std::string> &names);
 
-/// Removes a file, a link or an empty folder. False when that failed.
-bool remove(const std::string &path);
+/// Makes a folder; its parent must exist. Whether it worked is not told.
+void makeFolder(const std::string &path);
 
-/// The per-user folder for preferences, not ending in a separator; empty when the user has none.
+/// Makes a folder and those above it that are missing. Whether it worked is not told.
+void makeFolders(const std::string &path);
+
+/// Removes a file or a link. Whether it worked is not told.
+void remove(const std::string &path);
+
+/// A lock on a folder, held until the handle is closed; nullopt when another has it, in this
+/// program or another. The handle is not open where the folder cannot be locked: nobody is kept out
+/// then.
+std::optional<Handle> lockFolder(const std::string &path);
+
+/// The per-user folder for preferences, not ending in a separator; empty when the user has none:
+/// without a home, or without a full path to it.
 std::string preferencesFolder();
 
 /// The folder of the running program, not ending in a separator; empty when that cannot be told.
 std::string programFolder();
 
-/// A regular file open for reading.
+/// A regular file open for reading, up to the size that it had then.
 class InputFile {
   public:
     /// Opens `path`. When it is no regular file or cannot be opened, the file is not open and
     /// `problem` says why, in words for the user.
     InputFile(const std::string &path, std::string &problem);
-    ~InputFile();
-    InputFile(const InputFile &) = delete;
-    InputFile &operator=(const InputFile &) = delete;
 
-    bool isOpen() const { return handle_ >= 0; }
+    bool isOpen() const { return handle_.isOpen(); }
 
     /// Fills the rest of `bytes`, or some of it; false at the end of the file. Throws IOException.
     bool readSome(Bytes &bytes);
@@ -49,44 +69,74 @@ class InputFile {
     /// All that is left of the file. Throws IOException.
     Bytes readAll();
 
-    /// The size in bytes when it was opened: a hint, since it may grow or shrink.
-    std::size_t size() const { return size_; }
+    /// The size in bytes when it was opened; less may be there to read if it shrinks.
+    std::size_t size() const { return static_cast<std::size_t>(place_.status.st_size); }
+
+    /// Its permission bits when it was opened, those for reading, writing and executing.
+    mode_t permissions() const { return place_.permissions(); }
+
+    /// Makes its bytes and its name last through a power failure. Throws IOException.
+    void flush();
 
   private:
     std::string path_;
-    int handle_ = -1;
-    std::size_t size_ = 0;
+    Place place_;
+    Handle handle_;
+    std::size_t left_ = 0;
 };
 
+/// Who may read and write a new file.
+enum class Readers { byUmask, userAlone };
+
+/// Whether a file must last through a power failure when it is said to be written.
+enum class Lasting { no, yes };
+
 /// A file that comes into being whole or not at all: written beside its target without a name where
-/// the system allows that, and put in the target's place by commit. When it is destroyed before,
+/// the system allows that, and put in the target's place at the end. When it is destroyed before,
 /// the target stays as it was and nothing is left behind. What a killed process leaves is a file
 /// ".norvane-*.part" at most, which the next process to write in that folder removes.
 class NewFile : public TextSink {
   public:
     /// Begins a file for `path`; when it cannot be created, it is not open and `problem` says why.
-    NewFile(std::string path, std::string &problem);
+    /// A regular file that stands there must be writable and leaves its permission bits to the new
+    /// one; `readers` is for a file where there was none.
+    NewFile(const std::string &path, Readers readers, std::string &problem);
+
+    /// Begins a copy for `path` with these permission bits, whatever those of a file there are.
+    NewFile(const std::string &path, mode_t permissions, std::string &problem);
+
     ~NewFile() override;
     NewFile(const NewFile &) = delete;
     NewFile &operator=(const NewFile &) = delete;
 
-    bool isOpen() const { return handle_ >= 0; }
+    bool isOpen() const { return handle_.isOpen(); }
 
     /// Throws IOException when not all could be written.
     void write(std::string_view bytes) override;
 
-    /// Flushes to the disk and takes the target's place. Throws IOException; the file is then gone
-    /// and the old target stays.
-    void commit() override;
+    /// Takes the target's place, and lasts. Throws IOException: the old target then stays, unless
+    /// all that failed was to make the new one's name last.
+    void commit() override { finish(Lasting::yes); }
+
+    void finish(Lasting lasting);
 
   private:
+    bool findTarget(std::string &problem);
+    void begin(mode_t mode, std::string &problem);
     void nameTemporary();
+    void takePlace();
     [[noreturn]] void fail(int error);
 
     std::string path_;
+    Place place_;
     std::string temporary_; // empty while the file has no name
-    int handle_ = -1;
+    Handle handle_;
+    std::optional<mode_t> permissions_; // given at the end; without, the umask's
 };
+
+/// Copies a regular file with its permission bits, whole or not at all; passes over anything else.
+/// A copy that is there already is left alone. Whether it worked is not told.
+void copyFile(const std::string &source, const std::string &target, Lasting lasting);
 
 /// Lets a write beyond the limit of a file's size fail like any other; without this call, it ends
 /// the process.
@@ -94,5 +144,9 @@ void surviveSizeLimits();
 
 /// Writes all of `bytes` to an open descriptor. Throws IOException, naming `what`.
 void writeAll(int handle, std::string_view bytes, const std::string &what);
+
+/// Makes the names in a folder last through a power failure, as far as the file system can. Throws
+/// IOException, naming `what`, when its disk fails.
+void flushNames(const Place &place, const std::string &what);
 
 } // namespace norvane::disk

@@ -11,9 +11,6 @@ namespace {
 
 constexpr char kSeparator = '/';
 
-/// The least that is read of a file at a time, in bytes.
-constexpr std::size_t kLeastBlock = 4096;
-
 std::string withoutEndSeparator(std::string path) {
     while (path.size() > 1 && path.back() == kSeparator)
         path.pop_back();
@@ -24,16 +21,12 @@ std::string withEndSeparator(const std::string &path) {
     return path.ends_with(kSeparator) ? path : path + kSeparator;
 }
 
-/// The folder that holds what is at `path`, which has no separator at its end.
-std::string parentOf(const std::string &path) {
-    return path.substr(0, std::max<std::size_t>(path.rfind(kSeparator), 1));
-}
-
-void makeFolders(const std::string &path) {
-    if (disk::kindOf(path) != disk::Kind::missing)
-        return;
-    makeFolders(parentOf(path));
-    disk::makeFolder(path);
+Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers readers) {
+    std::string problem;
+    auto file = std::make_unique<disk::NewFile>(path, readers, problem);
+    if (!file->isOpen())
+        return Ref<TextOutputStream>::nil(problem);
+    return Ref(std::make_shared<TextOutputStream>(std::move(file)));
 }
 
 } // namespace
@@ -45,7 +38,7 @@ std::string FolderItem::Name() const {
 }
 
 std::string FolderItem::AbsolutePath() const {
-    return Directory() ? withEndSeparator(path_) : path_;
+    return disk::kindOf(path_) == disk::Kind::folder ? withEndSeparator(path_) : path_;
 }
 
 bool FolderItem::Exists() const {
@@ -53,7 +46,7 @@ bool FolderItem::Exists() const {
 }
 
 bool FolderItem::Directory() const {
-    return disk::kindOf(path_) == disk::Kind::folder;
+    return disk::kindOf(path_, disk::Kind::missing) == disk::Kind::folder;
 }
 
 const std::vector<std::string> &FolderItem::listing() const {
@@ -75,48 +68,37 @@ Ref<FolderItem> FolderItem::Item(std::size_t index) const {
 
 Ref<FolderItem> FolderItem::Child(std::string_view name) const {
     const std::string_view outlawed{"/\0", 2};
-    if (!Directory() || name.empty() || name == "." || name == ".." ||
-        name.find_first_of(outlawed) != std::string_view::npos)
+    const std::string path = withEndSeparator(path_).append(name);
+    if (disk::kindOf(path_) != disk::Kind::folder || name.empty() || name == "." || name == ".." ||
+        name.find_first_of(outlawed) != std::string_view::npos ||
+        disk::kindOf(path, disk::Kind::other) == disk::Kind::foreignLink)
         return Ref<FolderItem>::nil(inQuotes(path_) + " can have no item " + inQuotes(name) + ".");
-    return Ref(std::make_shared<FolderItem>(withEndSeparator(path_).append(name)));
+    return Ref(std::make_shared<FolderItem>(path));
 }
 
 void FolderItem::CreateAsFolder() const {
     disk::makeFolder(path_);
 }
 
-void FolderItem::CopyFileTo(const FolderItem &target) const {
-    constexpr std::size_t kMostBlock = std::size_t{1} << 20U;
-    std::string problem;
-    disk::InputFile source(path_, problem);
-    if (!source.isOpen())
-        return;
-    disk::NewFile copy(target.path_, problem);
-    if (!copy.isOpen())
-        return;
-    try {
-        Bytes block(std::clamp(source.size(), kLeastBlock, kMostBlock));
-        while (source.readSome(block)) {
-            copy.write(block.view());
-            block.clear();
-        }
-        copy.commit();
-    } catch (const IOException &) {
-        // The outcome of a copy is not told; what stood at the target still stands.
-        return;
-    }
+void FolderItem::CopyFileTo(const FolderItem &target, CopyOf use) const {
+    disk::copyFile(path_, target.path_,
+                   use == CopyOf::whatGoes ? disk::Lasting::yes : disk::Lasting::no);
 }
 
 void FolderItem::Delete() const {
     disk::remove(path_);
 }
 
+std::optional<Handle> FolderItem::Lock() const {
+    return disk::lockFolder(path_);
+}
+
 Ref<TextOutputStream> FolderItem::CreateTextFile() const {
-    std::string problem;
-    auto file = std::make_unique<disk::NewFile>(path_, problem);
-    if (!file->isOpen())
-        return Ref<TextOutputStream>::nil(problem);
-    return Ref(std::make_shared<TextOutputStream>(std::move(file)));
+    return createTextFile(path_, disk::Readers::byUmask);
+}
+
+Ref<TextOutputStream> FolderItem::CreatePrivateTextFile() const {
+    return createTextFile(path_, disk::Readers::userAlone);
 }
 
 Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
@@ -132,7 +114,8 @@ Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {
         return Ref<FolderItem>::nil("No folder or file was named.");
     if (!path.starts_with(kSeparator) || path.find('\0') != std::string::npos)
         return Ref<FolderItem>::nil(inQuotes(path) + " is no full path of a folder or file.");
-    if (disk::kindOf(parentOf(withoutEndSeparator(path))) != disk::Kind::folder)
+    const std::string folder = disk::folderOf(withoutEndSeparator(path));
+    if (disk::kindOf(folder, disk::Kind::folder) != disk::Kind::folder)
         return Ref<FolderItem>::nil(inQuotes(path) + " is in a folder that does not exist.");
     return Ref(std::make_shared<FolderItem>(path));
 }
@@ -140,8 +123,11 @@ Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {
 Ref<FolderItem> SpecialFolder::Preferences() {
     const std::string path = disk::preferencesFolder();
     if (path.empty())
-        return Ref<FolderItem>::nil("There is no folder for preferences.");
-    makeFolders(path);
+        return Ref<FolderItem>::nil(
+            "there is no folder for preferences, since HOME is not the full path of one.");
+    disk::makeFolders(path);
+    if (disk::kindOf(path) != disk::Kind::folder)
+        return Ref<FolderItem>::nil(inQuotes(path) + " is not a folder and cannot be made one.");
     return GetFolderItem(path, 0);
 }
 

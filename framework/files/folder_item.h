@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/files/handle.h"
 #include "framework/files/ref.h"
 #include "framework/files/text_streams.h"
 
@@ -11,8 +12,13 @@
 
 namespace norvane {
 
+/// What the copy of a file is for: what goes is deleted later, and its copy must last through a
+/// power failure from the start.
+enum class CopyOf { whatStays, whatGoes };
+
 /// A place in the file system, where something may or may not exist. Paths and their names hold
-/// UTF-8; other bytes in them pass unchanged.
+/// UTF-8; other bytes in them pass unchanged. A symbolic link is followed only when it belongs to
+/// the program's user or to root; any other is neither a file nor a folder.
 class FolderItem {
   public:
     virtual ~FolderItem() = default;
@@ -23,38 +29,52 @@ class FolderItem {
     /// The last part of the path, extension included.
     std::string Name() const;
 
-    /// The whole path; that of a folder ends in the separator.
+    /// The whole path; that of a folder ends in the separator. Throws IOException when it cannot be
+    /// told whether it is one, as with a failing disk.
     std::string AbsolutePath() const;
 
+    /// False when there is nothing, or no folder that could hold it. Throws IOException when that
+    /// cannot be told.
     bool Exists() const;
 
-    /// True for a folder.
+    /// True for a folder; false also when that cannot be told.
     bool Directory() const;
 
-    /// How many items the folder holds, hidden ones included; 0 when it is none or cannot be
-    /// listed. The listing is taken once, when Count or Item is first asked, and kept.
+    /// How many items the folder holds, hidden ones included; 0 when it is none or may not
+    /// be listed. The listing is taken once, when Count or Item is first asked, and kept. Both
+    /// throw IOException when the disk fails in it.
     std::size_t Count() const;
 
     /// The item of an index from 1 to Count, in the order of the names' bytes; nil outside.
     Ref<FolderItem> Item(std::size_t index) const;
 
-    /// What is named `name` in this folder, existing or not. Nil when this is no folder, and for
-    /// a name that is empty, "." or ".." or has a separator or a NUL in it.
+    /// What is named `name` in this folder, existing or not. Nil when this is no folder, for a name
+    /// that is empty, "." or ".." or has a separator or a NUL in it, and for one that another
+    /// user's link has. Throws IOException when it cannot be told whether this is a folder.
     Ref<FolderItem> Child(std::string_view name) const;
 
     /// Makes the folder. Whether it worked is not told.
     void CreateAsFolder() const;
 
-    /// Copies this regular file to `target`, whole or not at all, replacing what is there; passes
-    /// over anything else. Whether it worked is not told.
-    void CopyFileTo(const FolderItem &target) const;
+    /// Copies this regular file with its permission bits to `target`, whole or not at all,
+    /// replacing what is there unless it is the same; passes over anything else. Whether it worked
+    /// is not told.
+    void CopyFileTo(const FolderItem &target, CopyOf use) const;
 
     /// Deletes the file. Whether it worked is not told.
     void Delete() const;
 
+    /// Keeps other cycles, in whatever program, out of this folder for as long as the handle lives;
+    /// nullopt when another has it. Where the file system cannot lock, nobody is kept out.
+    std::optional<Handle> Lock() const;
+
     /// A stream whose text takes this item's place when it is closed; nil when it cannot be
-    /// created.
+    /// created. The new file has the permission bits of the one that it replaces, or those that the
+    /// user gives to new files.
     virtual Ref<TextOutputStream> CreateTextFile() const;
+
+    /// The same, but a file where there was none is for its user's eyes alone.
+    Ref<TextOutputStream> CreatePrivateTextFile() const;
 
     /// A stream over the file's text; nil for whatever is no readable regular file.
     virtual Ref<TextInputStream> OpenAsTextFile() const;
@@ -70,12 +90,14 @@ class FolderItem {
 };
 
 /// The item at an absolute path; `mode` is 0, absolute path. Nil when the path is empty or not
-/// absolute or holds a NUL, or its folder is missing.
+/// absolute or holds a NUL, or its folder is missing; what cannot be looked at, as on a failing
+/// disk, counts as existing here, and its use fails.
 Ref<FolderItem> GetFolderItem(const std::string &path, int mode);
 
 namespace SpecialFolder {
 
-/// The user's folder for preferences, made when missing; nil when there can be none.
+/// The user's folder for preferences, made when missing; nil when there can be none. Throws
+/// IOException when that cannot be told.
 Ref<FolderItem> Preferences();
 
 } // namespace SpecialFolder

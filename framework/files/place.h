@@ -1,0 +1,46 @@
+#pragma once
+
+#include "framework/files/handle.h"
+
+#include <string>
+#include <sys/stat.h>
+
+namespace norvane::disk {
+
+/// Where a path leads: a name in a folder that is held open. A look at it and the use that follows
+/// concern the same folder, whatever others do to the path meanwhile.
+struct Place {
+    Handle folder;    // for calls that take a folder and a name, not to be read; none for the root
+    std::string name; // "." when it is the folder itself
+    struct stat status {}; // of what stands there; its mode is 0 when nothing does
+
+    bool isTaken() const { return status.st_mode != 0; }
+    bool isFile() const { return S_ISREG(status.st_mode); }
+    bool isFolder() const { return S_ISDIR(status.st_mode); }
+    bool isLink() const { return S_ISLNK(status.st_mode); }
+    mode_t permissions() const { return status.st_mode & 0777U; }
+};
+
+enum class LastLink { follow, keep };
+
+/// Finds the place of an absolute path; gives 0, or the system's error, such as ENOENT when a
+/// folder on the way is missing. A symbolic link is followed only when it belongs to the user who
+/// runs the program or to root, since whoever may write to a shared folder could else lead the
+/// program to files of its user; any other is neither a folder nor a file. With `keep`, a link that
+/// the path itself names is found and not followed.
+int findPlace(std::string path, LastLink lastLink, Place &place);
+
+/// Opens what stands at `place`, without following a link; open(2) tells the flags and the mode.
+/// Not open on failure, with the system's error in errno.
+Handle openPlace(const Place &place, int flags, mode_t mode = 0);
+
+/// Opens the folder of `place` to be read. Not open on failure, with the system's error in errno.
+Handle openFolderOf(const Place &place);
+
+/// Why what stands at `place` is no regular file, as the end of a sentence about it.
+std::string whyNoFile(const Place &place);
+
+/// Words for the user for an error of the system.
+std::string reason(int error);
+
+} // namespace norvane::disk

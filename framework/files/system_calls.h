@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <type_traits>
+#include <unistd.h>
+
+namespace norvane::disk {
+
+/// A call to the system, made again for as long as a signal interrupts it.
+template <class Signature>
+struct Call;
+template <class Result, class... Parameters>
+struct Call<Result(Parameters...)> {
+    Result (*function)(Parameters...);
+
+    Result operator()(Parameters... parameters) const {
+        Result result = function(parameters...);
+        if constexpr (std::is_integral_v<Result>) {
+            while (result == -1 && errno == EINTR)
+                result = function(parameters...);
+        }
+        return result;
+    }
+};
+
+/// The calls by which files and folders are looked at, read and written, each with the meaning and
+/// the errors that POSIX gives it. Nothing of this program reaches a file in another way, so that a
+/// test can put calls that fail in their place.
+struct SystemCalls {
+    Call<int(int, const char *, int, mode_t)> openat{
+        [](int folder, const char *name, int flags, mode_t mode) {
+            return ::openat(folder, name, flags | O_CLOEXEC | O_NOCTTY, mode);
+        }};
+    Call<int(int, struct stat *)> fstat{::fstat};
+    Call<ssize_t(int, char *, std::size_t)> readOpenLink{
+        [](int link, char *target, std::size_t room) {
+#ifdef __APPLE__
+            return ::freadlink(link, target, room);
+#else
+            return ::readlinkat(link, "", target, room);
+#endif
+        }};
+    Call<int(int, const char *, int, int)> faccessat{::faccessat};
+    Call<DIR *(int)> fdopendir{::fdopendir};
+    Call<dirent *(DIR *)> readdir{::readdir};
+    Call<int(int, const char *, mode_t)> mkdirat{::mkdirat};
+    Call<int(int, const char *, int)> unlinkat{::unlinkat};
+    Call<int(int, int)> flock{::flock};
+    Call<ssize_t(int, void *, std::size_t)> read{::read};
+    Call<ssize_t(int, const void *, std::size_t)> write{::write};
+    Call<int(int, mode_t)> fchmod{::fchmod};
+    Call<int(int)> fsync{::fsync};
+    Call<int(int, const char *, int, const char *, int)> linkat{::linkat};
+    Call<int(int, const char *, int, const char *)> renameat{::renameat};
+};
+
+inline SystemCalls systemCalls;
+
+} // namespace norvane::disk

@@ -7,12 +7,13 @@
 
 namespace norvane {
 
-bool Window1::decodeLines(const TextInputStream &stream) {
+bool Window1::decodeLines(TextInputStream &stream) {
     constexpr double kProgressMaximum = 65536.0;
     ProgressText.Text = "Reading SCC File...";
     ProgressText.Visible = true;
     ProgressBar1.Value = 0;
     ProgressBar1.Maximum = static_cast<int>(kProgressMaximum);
+    ProgressBar1.Refresh(true); // before the first question to the stream, which reads the file
 
     const std::vector<std::string_view> lineArray = keptLines(stream.text());
     // Room ahead costs nothing where it is not used.

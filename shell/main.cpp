@@ -13,6 +13,7 @@ int main(int argc, char **argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("norvane"));
 
     QtDesktop desktop;
+    desktop.quitOnSignals();
     desktop.pictures.name("NORVANE_128", QStringLiteral(":/NORVANE_1281.png"));
     QApplication::setWindowIcon(desktop.pictures.find("NORVANE_128"));
 

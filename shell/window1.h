@@ -123,7 +123,7 @@ class Window1 : public Window {
     void nameForScreenReaders();
 
     // decode/decode_lines.cpp, for all three modes
-    bool decodeLines(const TextInputStream &stream);
+    bool decodeLines(TextInputStream &stream);
     void clearScreen();
 
     // transcript/writers.cpp, for all three writers

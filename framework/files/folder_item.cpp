@@ -103,10 +103,10 @@ Ref<TextOutputStream> FolderItem::CreatePrivateTextFile() const {
 
 Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
     std::string problem;
-    disk::InputFile file(path_, problem);
-    if (!file.isOpen())
+    auto file = std::make_shared<disk::InputFile>(path_, problem);
+    if (!file->isOpen())
         return Ref<TextInputStream>::nil(problem);
-    return Ref(std::make_shared<TextInputStream>(file.readAll()));
+    return Ref(std::make_shared<TextInputStream>([file] { return file->readAll(); }));
 }
 
 Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {

@@ -76,7 +76,8 @@ class FolderItem {
     /// The same, but a file where there was none is for its user's eyes alone.
     Ref<TextOutputStream> CreatePrivateTextFile() const;
 
-    /// A stream over the file's text; nil for whatever is no readable regular file.
+    /// A stream over the file's text; nil for whatever is no readable regular file. The text is
+    /// read when the stream is first asked for it, which throws IOException when that fails.
     virtual Ref<TextInputStream> OpenAsTextFile() const;
 
     /// Hands the file to the desktop, which opens it as it opens files of this kind.

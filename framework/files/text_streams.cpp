@@ -2,9 +2,30 @@
 
 #include "framework/text/text.h"
 
+#include <utility>
+
 namespace norvane {
 
+std::string_view TextInputStream::text() {
+    if (source_) {
+        bytes_ = std::exchange(source_, nullptr)();
+        lines_ = LineReader(bytes_.view());
+    }
+    return bytes_.view();
+}
+
+std::string_view TextInputStream::ReadLine() {
+    text();
+    return lines_.next();
+}
+
+bool TextInputStream::EndOfFile() {
+    text();
+    return lines_.atEnd();
+}
+
 void TextInputStream::Close() {
+    source_ = nullptr;
     bytes_ = Bytes();
     lines_ = LineReader(std::string_view());
 }

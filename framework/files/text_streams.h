@@ -3,33 +3,39 @@
 #include "framework/files/bytes.h"
 #include "framework/text/line_reader.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace norvane {
 
-/// A text file's content, read line by line. The whole file is in memory.
+/// A text file's content, given line by line. The whole file is in memory, from the first question
+/// on: that is when it is read, so that whoever opened it may first tell the user.
 class TextInputStream {
   public:
     explicit TextInputStream(Bytes bytes) : bytes_(std::move(bytes)), lines_(bytes_.view()) {}
 
+    /// `source` gives the content, once. What it throws comes out of the first question.
+    explicit TextInputStream(std::function<Bytes()> source) : source_(std::move(source)) {}
+
     /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the
     /// last ending is a line as well. Behind the last line, an empty text. The view holds until
     /// Close or the end of the stream.
-    std::string_view ReadLine() { return lines_.next(); }
+    std::string_view ReadLine();
 
     /// True when nothing is left to read. (C's own macro bars the shorter name.)
-    bool EndOfFile() const { return lines_.atEnd(); }
+    bool EndOfFile();
 
     /// The whole text, whatever has been read of it; the view holds as long as those of lines.
-    std::string_view text() const { return bytes_.view(); }
+    std::string_view text();
 
     void Close();
 
   private:
+    std::function<Bytes()> source_; // empty when it has been asked
     Bytes bytes_;
-    LineReader lines_;
+    LineReader lines_{std::string_view()};
 };
 
 /// Where a stream's text goes: it counts as written when commit returns. Both throw IOException.

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 
 namespace norvane {
 
@@ -17,32 +18,98 @@ QWidget *owner() {
     return modal != nullptr ? modal : QApplication::activeWindow();
 }
 
+/// A dialog for one name. Unlike the toolkit's own it takes quotation marks for part of the name.
+class NameDialog : public QFileDialog {
+  public:
+    NameDialog(const char *title, const QString &folder)
+        : QFileDialog(owner(), QString::fromLatin1(title), folder) {}
+
+    QString path() const { return quoted_.isEmpty() ? selectedFiles().value(0) : quoted_; }
+
+  protected:
+    void accept() override {
+        const auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        const bool hasQuotes = edit != nullptr && edit->text().contains(u'"');
+        quoted_ = hasQuotes ? directory().filePath(edit->text()) : QString();
+        if (hasQuotes && (acceptMode() == AcceptSave || QFileInfo::exists(quoted_)))
+            QDialog::accept();
+        else
+            QFileDialog::accept();
+    }
+
+  private:
+    QString quoted_; // the path that was chosen, where the name has quotation marks
+};
+
 } // namespace
 
 void Dialogs::message(QMessageBox::Icon icon, const std::string &text) {
     QMessageBox box(icon, QCoreApplication::applicationName(), toQt(text), QMessageBox::Ok,
                     owner());
     box.setTextFormat(Qt::PlainText);
-    box.exec();
+    run(box);
 }
 
 Ref<FolderItem> Dialogs::openFile(const std::string &fileType) {
-    const QString path = QFileDialog::getOpenFileName(owner(), QStringLiteral("Open"), lastFolder_,
-                                                      filterFor(fileType));
-    return chosen(path, QFileInfo(path).path());
+    NameDialog dialog("Open", lastFolder_);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilter(filterFor(fileType));
+    if (run(dialog) == QDialog::Rejected)
+        return cancelled();
+    return chosen(dialog.path(), QFileInfo(dialog.path()).path());
 }
 
 Ref<FolderItem> Dialogs::saveFile(const std::string &fileType, const std::string &defaultName) {
-    const QString start = QFileInfo(lastFolder_, QFile::decodeName(defaultName.c_str())).filePath();
-    const QString path =
-        QFileDialog::getSaveFileName(owner(), QStringLiteral("Save"), start, filterFor(fileType));
-    return chosen(path, QFileInfo(path).path());
+    NameDialog dialog("Save", lastFolder_);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilter(filterFor(fileType));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // which knows nothing of the extension
+    dialog.selectFile(QFile::decodeName(defaultName.c_str()));
+    for (;;) {
+        if (run(dialog) == QDialog::Rejected)
+            return cancelled();
+        QString path = dialog.path();
+        if (!QFileInfo(path).fileName().contains(u'.'))
+            path += QStringLiteral(".txt");
+        if (!QFileInfo::exists(path) || mayReplace(QFileInfo(path).fileName()))
+            return chosen(path, QFileInfo(path).path());
+    }
 }
 
 Ref<FolderItem> Dialogs::folder() {
-    const QString path =
-        QFileDialog::getExistingDirectory(owner(), QStringLiteral("Choose a Folder"), lastFolder_);
-    return chosen(path, path);
+    NameDialog dialog("Choose a Folder", lastFolder_);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (run(dialog) == QDialog::Rejected)
+        return cancelled();
+    return chosen(dialog.path(), dialog.path());
+}
+
+void Dialogs::cancelAll() {
+    cancelling_ = true;
+    while (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+        dialog->reject();
+}
+
+int Dialogs::run(QDialog &dialog) {
+    if (cancelling_)
+        return QDialog::Rejected;
+    ++waiting_;
+    const int result = dialog.exec();
+    --waiting_;
+    // Its picture stays on the windows behind it for as long as an action keeps them from painting.
+    for (QWidget *window : QApplication::topLevelWidgets())
+        window->update();
+    return result;
+}
+
+bool Dialogs::mayReplace(const QString &name) {
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Save"),
+                    QStringLiteral("“%1” is there already. Shall it be replaced?").arg(name),
+                    QMessageBox::Yes | QMessageBox::No, owner());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return run(box) == QMessageBox::Yes;
 }
 
 QString Dialogs::filterFor(const std::string &fileType) const {
@@ -57,9 +124,11 @@ QString Dialogs::filterFor(const std::string &fileType) const {
     return filter + QStringLiteral(";;All files (*)");
 }
 
+Ref<FolderItem> Dialogs::cancelled() {
+    return Ref<FolderItem>::nil("nothing was chosen in the dialog.");
+}
+
 Ref<FolderItem> Dialogs::chosen(const QString &path, const QString &itsFolder) {
-    if (path.isEmpty())
-        return Ref<FolderItem>::nil("nothing was chosen in the dialog.");
     lastFolder_ = itsFolder;
     return GetFolderItem(QFile::encodeName(path).toStdString(), 0);
 }

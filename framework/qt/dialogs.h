@@ -20,20 +20,32 @@ class Dialogs {
     void add(const FileType &type) { types_.push_back(type); }
 
     /// A box with one button.
-    static void message(QMessageBox::Icon icon, const std::string &text);
+    void message(QMessageBox::Icon icon, const std::string &text);
 
-    // A file of the type, or of any other; a place to save at, asking before a file is replaced; a
-    // folder. All begin in the folder used last, and give nil on Cancel.
+    // A file of the type, or of any other; a place to save at, which gets ".txt" where the user
+    // names no extension, asking before a file is replaced; a folder. All begin in the folder used
+    // last, and give nil on Cancel.
     Ref<FolderItem> openFile(const std::string &fileType);
     Ref<FolderItem> saveFile(const std::string &fileType, const std::string &defaultName);
     Ref<FolderItem> folder();
 
+    /// Whether some dialog waits for its answer, so that an action is at work.
+    bool waiting() const { return waiting_ > 0; }
+
+    /// Cancels the dialogs that wait, and from now on each before it is shown.
+    void cancelAll();
+
   private:
+    int run(QDialog &dialog);
+    bool mayReplace(const QString &name);
     QString filterFor(const std::string &fileType) const;
+    static Ref<FolderItem> cancelled();
     Ref<FolderItem> chosen(const QString &path, const QString &itsFolder);
 
     std::vector<FileType> types_;
     QString lastFolder_ = QDir::homePath();
+    int waiting_ = 0;
+    bool cancelling_ = false;
 };
 
 } // namespace norvane

@@ -1,12 +1,13 @@
 #include "framework/qt/qt_desktop.h"
 
+#include "framework/qt/end_signals.h"
 #include "framework/qt/qt_text.h"
 #include "framework/windows/window.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
-#include <QUrl>
+#include <QProcess>
 
 #include <algorithm>
 #include <chrono>
@@ -39,12 +40,24 @@ void QtDesktop::quit() {
     QCoreApplication::exit();
 }
 
+void QtDesktop::quitOnSignals() {
+    onEndSignals(alarm_, [this] { quitWhenIdle(); });
+}
+
+void QtDesktop::quitWhenIdle() {
+    dialogs.cancelAll();
+    if (dialogs.waiting()) // in a loop of theirs, which ends with this event
+        QTimer::singleShot(0, &alarm_, [this] { quitWhenIdle(); });
+    else
+        quit();
+}
+
 void QtDesktop::message(const std::string &text) {
-    Dialogs::message(QMessageBox::Information, text);
+    dialogs.message(QMessageBox::Information, text);
 }
 
 void QtDesktop::failure(const std::string &text) {
-    Dialogs::message(QMessageBox::Warning, text);
+    dialogs.message(QMessageBox::Warning, text);
 }
 
 Ref<FolderItem> QtDesktop::chooseFile(const std::string &fileType) {
@@ -61,13 +74,35 @@ Ref<FolderItem> QtDesktop::chooseFolder() {
 }
 
 void QtDesktop::launch(const std::string &path, bool /*activate*/) {
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(path.c_str()))))
-        message("The desktop has no program that opens this file:\n" + path);
+    open(QUrl::fromLocalFile(QFile::decodeName(path.c_str())),
+         "The desktop has no program that opens this file:\n" + path);
 }
 
 void QtDesktop::showURL(const std::string &address) {
-    if (!QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(address))))
-        message("The desktop has no program that opens this page:\n" + address);
+    open(QUrl::fromEncoded(QByteArray::fromStdString(address)),
+         "The desktop has no program that opens this page:\n" + address);
+}
+
+/// Hands an address to the desktop. Where there is an opener, only its end tells whether it found a
+/// program, and some openers last as long as that program; so it is waited for on the side.
+void QtDesktop::open(const QUrl &address, const std::string &trouble) {
+    auto *opener = new QProcess; // left alone when this program ends first
+    QObject::connect(opener, &QProcess::finished, &alarm_, [this, opener, trouble](int status) {
+        opener->deleteLater();
+        if (status != 0)
+            message(trouble);
+    });
+    QObject::connect(opener, &QProcess::errorOccurred, &alarm_,
+                     [this, opener, address, trouble](QProcess::ProcessError error) {
+                         if (error != QProcess::FailedToStart)
+                             return;
+                         opener->deleteLater();
+                         if (!QDesktopServices::openUrl(address))
+                             message(trouble);
+                     });
+    opener->setProcessChannelMode(QProcess::ForwardedChannels);
+    opener->setStandardInputFile(QProcess::nullDevice());
+    opener->start(QStringLiteral("xdg-open"), {QString::fromLatin1(address.toEncoded())});
 }
 
 void QtDesktop::add(Window &window) {

@@ -9,6 +9,7 @@
 
 #include <QPointer>
 #include <QTimer>
+#include <QUrl>
 
 #include <map>
 #include <string>
@@ -38,6 +39,10 @@ class QtDesktop : public Desktop {
     /// Closes all windows and ends the event loop.
     void quit();
 
+    /// Lets TERM, INT and HUP end the program as quit does, once the action at work has ended:
+    /// dialogs that it waits for are cancelled.
+    void quitOnSignals();
+
     void message(const std::string &text) override;
     void failure(const std::string &text) override;
     Ref<FolderItem> chooseFile(const std::string &fileType) override;
@@ -55,6 +60,8 @@ class QtDesktop : public Desktop {
     void timersChanged() override;
 
   private:
+    void quitWhenIdle();
+    void open(const QUrl &address, const std::string &trouble);
     void raiseTicks();
 
     Application *application_ = nullptr;

@@ -11,6 +11,8 @@ namespace norvane {
 
 Desk::Desk() {
     setenv("XDG_CONFIG_HOME", preferences.path().c_str(), 1);
+    setenv("PATH", (programs.path() + ":/usr/bin:/bin").c_str(), 1);
+    setOpener("exit 4");
     desktop.pictures.name("NORVANE_128", QStringLiteral(":/NORVANE_1281.png"));
     _EarlyStartup();
     desktop.setApplication(App::the());
@@ -73,15 +75,25 @@ void Desk::confirm() {
     });
 }
 
+void Desk::confirmLater() {
+    confirm();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return answers_.empty(); }));
+}
+
+void Desk::setOpener(const std::string &script) {
+    programs.write("xdg-open", "#!/bin/sh\n" + script + "\n");
+    std::filesystem::permissions(programs.path("xdg-open"), std::filesystem::perms::owner_all);
+}
+
 void Desk::decode(const std::string &file, const std::string &saveAs) {
     answerPath(folder.path(file));
-    if (saveAs.empty()) {
+    if (saveAs.empty())
         cancel();
-    } else {
+    else
         answerPath(folder.path(saveAs));
-        confirm(); // the offscreen desktop opens no files
-    }
     click("BevelButton1");
+    if (!saveAs.empty())
+        confirmLater();
 }
 
 } // namespace norvane

@@ -40,6 +40,7 @@ class Desk : public testing::Test {
     /// Confirms a message box, whose text is then in `messages`.
     void confirm();
     Lines messages;
+    void confirmLater(); // as it comes after the action
     void answers(std::function<void(QWidget &)> answer) { answers_.push_back(std::move(answer)); }
 
     /// Presses "Select SCC File" and chooses `file`, then saves as `saveAs`, or cancels when it is
@@ -48,6 +49,8 @@ class Desk : public testing::Test {
 
     TemporaryFolder folder;
     TemporaryFolder preferences;
+    TemporaryFolder programs; // holds the desktop's opener, which begins as one that finds nothing
+    void setOpener(const std::string &script);
     QtDesktop desktop;
 
   private:

@@ -1,0 +1,149 @@
+#include "tests/qt/desk.h"
+
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include <csignal>
+
+namespace norvane {
+namespace {
+
+class DialogsAndDesktop : public Desk {
+  protected:
+    /// Looks at the file dialog that comes, and takes it as it stands.
+    void answerAsItStands(const std::string &name, const QString &filter) {
+        answers([=](QWidget &widget) {
+            const auto &dialog = dynamic_cast<QFileDialog &>(widget);
+            auto *edit = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            EXPECT_EQ(edit->text().toStdString(), name);
+            EXPECT_EQ(dialog.nameFilters(), QStringList({filter, "All files (*)"}));
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+    }
+    void replaceOrNot(QMessageBox::StandardButton choice) {
+        answers(
+            [choice](QWidget &box) { dynamic_cast<QMessageBox &>(box).button(choice)->click(); });
+    }
+    const std::string sample_ = sccFile({hiLine("00:00:01:00")});
+};
+
+TEST_F(DialogsAndDesktop, NamesArriveAsTheyAre) {
+    const std::string odd = " q \"d\" & $x;y, z";
+    folder.write(odd + ".scc", sample_);
+    answerPath(folder.path(odd + ".scc"));
+    answerAsItStands(odd + ".txt", "Text files (*.txt)");
+    click("BevelButton1");
+    confirmLater();
+    EXPECT_TRUE(folder.has(odd + ".txt"));
+    answerAsItStands("", "SCC files (*.scc *.SCC)");
+    cancel();
+    click("BevelButton1");
+    folder.write("in \"d\"/x", "");
+    answerPath(folder.path("in \"d\""));
+    click("BevelButton6");
+    EXPECT_EQ(window().hotFolder, folder.path("in \"d\"/"));
+}
+
+TEST_F(DialogsAndDesktop, TheFinalNameIsWhatIsReplaced) {
+    folder.write("a.scc", sample_);
+    folder.write("plain", "kept");
+    folder.write("old.txt", "");
+    setOpener("echo \"$1\" >\"$0.told\"");
+    answerPath(folder.path("a.scc"));
+    answerPath(folder.path("plain"));
+    click("BevelButton1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return programs.has("xdg-open.told"); }));
+    EXPECT_EQ(folder.read("plain"), "kept");
+    EXPECT_EQ(messages, Lines());
+    for (const auto choice : {QMessageBox::No, QMessageBox::Yes}) {
+        answerPath(folder.path("a.scc"));
+        answerPath(folder.path("old"));
+        replaceOrNot(choice);
+        if (choice == QMessageBox::No)
+            cancel();
+        click("BevelButton1");
+        EXPECT_EQ(folder.read("old.txt").empty(), choice == QMessageBox::No);
+        EXPECT_EQ(messages.back(), "“old.txt” is there already. Shall it be replaced?");
+    }
+    EXPECT_EQ(folder.read("old.txt"), folder.read("plain.txt"));
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return programs.read("xdg-open.told") == "file://" + folder.path("old.txt") + "\n";
+    }));
+}
+
+TEST_F(DialogsAndDesktop, WhatTheDesktopCannotOpenIsTold) {
+    for (const char *opener : {"exit 1", "kill $$", ""}) {
+        if (*opener != '\0')
+            setOpener(opener);
+        else
+            std::filesystem::remove(programs.path("xdg-open"));
+        ShowURL("file:///a%20page");
+        confirmLater();
+        EXPECT_EQ(messages.back(),
+                  "The desktop has no program that opens this page:\nfile:///a%20page");
+    }
+    EXPECT_EQ(messages.size(), 3U);
+}
+
+/// Writes another text into a file when a widget is first painted.
+class Rewriter : public QObject {
+  public:
+    std::function<void()> rewrite;
+
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::Paint && rewrite)
+            std::exchange(rewrite, nullptr)();
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+TEST_F(DialogsAndDesktop, TheWindowIsPaintedBeforeAFileIsRead) {
+    folder.write("late.scc", sccFile({hiLine("00:00:09:00")}));
+    Rewriter rewriter;
+    rewriter.rewrite = [this] {
+        EXPECT_TRUE(at("ProgressText")->isVisible() && at("ProgressBar1")->isVisible());
+        EXPECT_EQ(at("ProgressBar1")->property("value"), 0);
+        folder.write("late.scc", sample_);
+    };
+    at("Canvas1")->installEventFilter(&rewriter);
+    decode("late.scc", "late.txt");
+    EXPECT_NE(folder.read("late.txt").find("[00:00:01.33]"), std::string::npos);
+}
+
+TEST_F(DialogsAndDesktop, ASignalCancelsWhatWaitsAndQuits) {
+    desktop.quitOnSignals();
+    folder.write("a.scc", sample_);
+    folder.write("old.txt", "");
+    answerPath(folder.path("a.scc"));
+    answerPath(folder.path("old.txt"));
+    answers([](QWidget & /*question*/) { std::raise(SIGTERM); });
+    click("BevelButton1");
+    EXPECT_EQ(window().timeCodeArray.size(), 1U);
+    click("BevelButton4"); // whose dialog and message nobody is there to see
+    const QPointer<QWidget> main = peer();
+    QApplication::exec();
+    EXPECT_TRUE(main.isNull() || main->isHidden());
+    EXPECT_TRUE(preferences.has("com.bellwick.norvane.prefs"));
+    EXPECT_EQ(folder.read("old.txt"), "");
+}
+
+TEST_F(DialogsAndDesktop, ABoxWithoutAWindowBehindItEndsNothing) {
+    peer()->hide();
+    answers([](QWidget &box) {
+        EXPECT_EQ(dynamic_cast<QMessageBox &>(box).textFormat(), Qt::PlainText);
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    MsgBox("<b>a & b</b>");
+    bool went = false;
+    QTimer::singleShot(30, [&] {
+        went = true;
+        QApplication::exit();
+    });
+    QApplication::exec();
+    EXPECT_TRUE(went);
+}
+
+} // namespace
+} // namespace norvane

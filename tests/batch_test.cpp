@@ -29,6 +29,7 @@ ProgressBar1 0 of 100
 folder dialog
 ProgressText "Reading SCC File..."
 ProgressBar1 0 of 65536
+ProgressBar1 repainted
 ProgressBar1 65536 of 65536
 ProgressBar1 repainted
 save dialog TEXT a.txt

@@ -113,6 +113,7 @@ ProgressText "Copying SCC files..."
 ProgressText ""
 ProgressText "Reading SCC File..."
 ProgressBar1 0 of 65536
+ProgressBar1 repainted
 ProgressBar1 16384 of 65536
 ProgressBar1 repainted
 ProgressBar1 32768 of 65536

@@ -52,6 +52,7 @@ open dialog text/scc
 ProgressBar1 0 of 100
 ProgressText "Reading SCC File..."
 ProgressBar1 0 of 65536
+ProgressBar1 repainted
 ProgressBar1 21845 of 65536
 ProgressBar1 repainted
 ProgressBar1 43690 of 65536
@@ -67,12 +68,14 @@ ProgressText "Done Writing SCC Transcripts" hidden
 open dialog text/scc
 ProgressBar1 0 of 65536
 ProgressText "Reading SCC File..."
+ProgressBar1 repainted
 save dialog TEXT none.txt
 ProgressText "Reading SCC File..." hidden
 ProgressBar1 0 of 65536 hidden
 open dialog text/scc
 ProgressBar1 0 of 65536
 ProgressText "Reading SCC File..."
+ProgressBar1 repainted
 ProgressBar1 32768 of 65536
 ProgressBar1 repainted
 ProgressBar1 65536 of 65536

@@ -90,6 +90,7 @@ CheckBox1 on
 ProgressBar1 0 of 100
 ProgressText "Reading SCC File..."
 ProgressBar1 0 of 65536
+ProgressBar1 repainted
 ProgressBar1 65536 of 65536
 ProgressBar1 repainted
 ProgressText "Done Writing SCC Transcripts"

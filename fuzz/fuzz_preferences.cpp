@@ -1,35 +1,25 @@
-#include "framework/headless/headless_desktop.h"
-#include "shell/window1.h"
+#include "framework/headless/look.h"
+#include "tests/support/scenario.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
 /// Any bytes as the preference file of a start and an end of the program. Whatever comes of it is
-/// saved, and a second start finds the program in the same state.
+/// saved, and a second start shows the same window.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace norvane;
-    static const std::string folder = [] {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "norvane-fuzz-XXXXXX").string();
-        setenv("XDG_CONFIG_HOME", mkdtemp(pattern.data()), 1);
-        return pattern;
-    }();
+    static const TemporaryFolder folder;
+    setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
     // Without separators, no line names a folder: a watch that is on would work on it in earnest.
     std::string text(reinterpret_cast<const char *>(data), size);
     std::replace(text.begin(), text.end(), '/', '_');
-    std::ofstream(folder + "/com.bellwick.norvane.prefs", std::ios::binary) << text;
-    HeadlessDesktop desktop;
-    std::string interval[2];
-    for (std::string &minutes : interval) {
-        Window1 &window = Window1::the();
-        minutes = window.timerText.Text;
-        window.CheckBox1.Value = false; // the watch of a second start would run a cycle
-        window.Close();
-    }
-    if (interval[0] != interval[1])
+    folder.write("com.bellwick.norvane.prefs", text);
+    const HeadlessDesktop desktop;
+    std::string first = look(Window1::the());
+    Window1::the().Close();
+    if (first != look(Window1::the()))
         std::abort();
+    Window1::the().Close();
     return 0;
 }

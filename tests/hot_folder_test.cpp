@@ -134,30 +134,6 @@ ProgressBar1 0 of 65536 hidden
     EXPECT_EQ(folder.read("dest/d.txt"), hiTranscript("d.scc", {"00:00:07.33"}));
 }
 
-TEST_F(HotFolder, TimecodesPassFromModeToMode) {
-    const auto hour = [](int number) { return hiLine("0" + std::to_string(number) + ":00:00:00"); };
-    folder.write("bad.scc", sccFile({hour(1), hour(2), hour(3), hour(4), "the fifth", hour(5)}));
-    folder.write("show.scc", sccFile({hour(5)}));
-    folder.write("batch/a.scc", sccFile({hour(6), hour(6), hour(6), hour(6), hour(6), hour(6)}));
-    folder.write("batch/b.scc", sccFile({hour(7), "bad"}));
-    input("c.scc", {hour(8), hour(8)});
-    input("d.scc", {hour(9)});
-
-    desktop.answerFile(folder.item("bad.scc"));
-    desktop.click(window().BevelButton1);
-    decode("show.scc", "");
-    desktop.answerFolder(folder.item("batch"));
-    desktop.answerSave(folder.item("a.txt"));
-    desktop.click(window().BevelButton4);
-    EXPECT_EQ(messages(), (Lines{kNoTimecode, kNoTimecode}));
-    EXPECT_EQ(folder.read("a.txt"),
-              hiTranscript("a.scc", {"01:00:00.33", "02:00:00.33", "03:00:00.33", "04:00:00.33",
-                                     "05:00:00.33", "06:00:00.33"}));
-    EXPECT_EQ(watch(), Lines{});
-    EXPECT_EQ(folder.read("dest/c.txt"), hiTranscript("c.scc", {"07:00:00.33", "08:00:00.33"}));
-    EXPECT_EQ(folder.read("dest/d.txt"), hiTranscript("d.scc", {"09:00:00.33"}));
-}
-
 TEST_F(HotFolder, TheWatchFolderMayBeTheDestination) {
     choose("watch", "watch");
     input("show.scc", {hiLine("00:00:01:00")});

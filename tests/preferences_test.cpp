@@ -2,7 +2,6 @@
 #include "tests/support/scenario.h"
 
 #include <array>
-#include <random>
 
 namespace norvane {
 namespace {
@@ -154,20 +153,6 @@ TEST_F(Preferences, CutOffAtEveryLength) {
             << length;
     }
     EXPECT_EQ(messages(), Lines{});
-}
-
-TEST_F(Preferences, RandomBytesGiveAStateThatIsSavedAndComesBack) {
-    std::mt19937 random(1);
-    constexpr std::string_view kLikely("\n\r\0\ttrue/\xff", 10);
-    for (int round = 0; round < 300; ++round) {
-        std::string text(random() % 200, '\0');
-        for (char &byte : text)
-            byte = random() % 3 == 0 ? kLikely[random() % kLikely.size()]
-                                     : static_cast<char>(random() % 256);
-        const std::string first = openOn(text);
-        closeWindow();
-        EXPECT_EQ(state(), first) << round;
-    }
 }
 
 TEST_F(Preferences, AFileThatCannotBeWrittenIsToldOfAndStays) {

@@ -5,19 +5,22 @@
 
 namespace norvane {
 
-/// Hex text of many kinds: mostly ordinary lines, and a good part of everything that can go wrong
-/// with one. The same seed gives the same texts.
+/// Inputs of many kinds: mostly ordinary ones, and a good part of everything that can go wrong with
+/// them. The same seed gives the same texts.
 class GeneratedHexText {
   public:
     explicit GeneratedHexText(unsigned seed) : random_(seed) {}
+    /// The hex text of a line.
     std::string next();
+    /// An SCC file of a few lines.
+    std::string file();
+    /// A number less than `limit`.
+    unsigned below(unsigned limit) { return static_cast<unsigned>(random_() % limit); }
 
   private:
-    unsigned below(unsigned limit) { return static_cast<unsigned>(random_() % limit); }
-    std::string word();
-    std::string ordinaryLine();
-    std::string keysInPieces();
-    void disturb(std::string &text);
+    static std::string hex(unsigned value, unsigned digits);
+    std::string letter();
+    std::string word(bool ordinary);
 
     std::mt19937 random_;
 };

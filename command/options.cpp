@@ -1,12 +1,23 @@
 #include "command/options.h"
 
+#include "framework/text/text.h"
+
+#include <algorithm>
+#include <getopt.h>
+#include <numeric>
+#include <optional>
+
 namespace norvane {
 
 namespace {
 
 constexpr const char *kUsage =
     "Usage: norvane-transcript [OPTION]... FILE...\n"
-    "Turns Scenarist Closed Caption files (.scc) into readable transcripts.\n"
+    "       norvane-transcript --explain [--json] FILE[:LINE]...\n"
+    "       norvane-transcript --check [--json] [--without KIND,...] FILE...\n"
+    "Turns Scenarist Closed Caption files (.scc) into readable transcripts, explains what became\n"
+    "of each word of a file, or checks files. A FILE named - is standard input, and so is none\n"
+    "when something is piped in.\n"
     "\n"
     "  --form timecode|line|paragraph  how captions are laid out (timecode)\n"
     "  --clock unbuffered|scc          start times corrected for the buffer, or as the\n"
@@ -14,66 +25,214 @@ constexpr const char *kUsage =
     "  --output-dir DIR                write DIR/NAME.txt for each file, not standard output;\n"
     "                                  NAME is the file's name up to its first point\n"
     "  --force                         replace transcripts that exist already\n"
-    "  --help                          print this and exit\n"
+    "  --explain                       for each data line, or for LINE alone: its words, what\n"
+    "                                  they mean, what became of them, what to do\n"
+    "  --check                         print what is wrong with each file: FILE:LINE: KIND: text\n"
+    "  --without KIND,...              leave out kinds of findings; the kinds are\n";
+
+constexpr const char *kUsageBehindKinds =
+    "  --json                          print one JSON object a line\n"
+    "  --help, -h                      print this and exit\n"
     "  --version                       print the version and exit\n"
     "\n"
-    "Exit status: 0 when all went well, 1 when a file failed, 2 for wrong usage.\n";
+    "Exit status: 0 when all went well, 1 when a file failed or a check found something, 2 for\n"
+    "wrong usage.\n";
 
-Options wrong(const std::string &what) {
+/// Beyond the characters, so that getopt_long tells these from one-letter options.
+enum Found { form = 256, clock, outputFolder, force, explain, check, without, json, version };
+
+constexpr auto kOptions = std::to_array<option>({
+    {"form", required_argument, nullptr, form},
+    {"clock", required_argument, nullptr, clock},
+    {"output-dir", required_argument, nullptr, outputFolder},
+    {"force", no_argument, nullptr, force},
+    {"explain", no_argument, nullptr, explain},
+    {"check", no_argument, nullptr, check},
+    {"without", required_argument, nullptr, without},
+    {"json", no_argument, nullptr, json},
+    {"help", no_argument, nullptr, 'h'},
+    {"version", no_argument, nullptr, version},
+    {nullptr, 0, nullptr, 0}, // the end, as getopt_long wants it
+});
+
+// In the order of the enums.
+constexpr auto kForms = std::to_array<std::string_view>({"timecode", "line", "paragraph"});
+constexpr auto kClocks = std::to_array<std::string_view>({"unbuffered", "scc"});
+
+Options answered(const std::string &text, int exitStatus = 0) {
     Options options;
-    options.answer = "norvane-transcript: " + what + "\nTry 'norvane-transcript --help'.\n";
-    options.exitStatus = 2;
+    options.answer = text;
+    options.exitStatus = exitStatus;
     return options;
 }
 
-Options answered(const std::string &text) {
-    Options options;
-    options.answer = text;
-    return options;
+Options wrong(const std::string &what) {
+    return answered("norvane-transcript: " + what + "\nTry 'norvane-transcript --help'.\n", 2);
+}
+
+/// How many letters must be put in, taken out or replaced to make one word of the other.
+std::size_t distance(std::string_view from, std::string_view to) {
+    std::vector<std::size_t> row(to.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        std::size_t diagonal = row[0]++;
+        for (std::size_t j = 0; j < to.size(); ++j) {
+            const std::size_t replaced = diagonal + (from[i] == to[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
+        }
+    }
+    return row.back();
+}
+
+/// "; did you mean ...?" when one of the words is near.
+template <class Words>
+std::string suggestion(std::string_view word, const Words &words, std::string_view prefix) {
+    constexpr std::size_t kNear = 2;
+    std::string_view best;
+    std::size_t bestDistance = kNear + 1;
+    for (const std::string_view candidate : words) {
+        const std::size_t candidateDistance = distance(word, candidate);
+        if (candidateDistance < bestDistance) {
+            best = candidate;
+            bestDistance = candidateDistance;
+        }
+    }
+    return best.empty() ? "" : std::string("; did you mean '").append(prefix).append(best) + "'?";
+}
+
+std::string unknownOption(std::string_view argument) {
+    std::vector<std::string_view> names;
+    for (const option &known : kOptions) {
+        if (known.name != nullptr)
+            names.emplace_back(known.name);
+    }
+    std::string message = "unknown option '" + printable(argument) + "'";
+    if (argument.starts_with("--")) {
+        argument.remove_prefix(2);
+        message += suggestion(argument.substr(0, argument.find('=')), names, "--");
+    }
+    return message;
+}
+
+/// Which of the words `word` is; nothing when none.
+template <class Words>
+std::optional<std::size_t> indexOf(std::string_view word, const Words &words) {
+    const auto found = std::find(words.begin(), words.end(), word);
+    if (found == words.end())
+        return {};
+    return static_cast<std::size_t>(found - words.begin());
+}
+
+/// Removes the kinds of a list from those that are wanted. Gives what is wrong with the list, or
+/// the empty text.
+std::string leaveOut(std::string_view list, FindingKinds &kinds) {
+    for (bool more = true; more;) {
+        const std::size_t comma = list.find(',');
+        const std::string_view name = list.substr(0, comma);
+        const auto kind = indexOf(name, kFindingNames);
+        if (!kind)
+            return "unknown kind '" + printable(name) + "'" + suggestion(name, kFindingNames, "");
+        kinds.reset(*kind);
+        more = comma != std::string_view::npos;
+        list.remove_prefix(more ? comma + 1 : 0);
+    }
+    return "";
+}
+
+std::string usage() {
+    constexpr const char *kIndent = "                                  ";
+    constexpr std::size_t kWidth = 56; // of the column behind the indent
+    std::string text = kUsage;
+    std::string line;
+    for (const std::string_view name : kFindingNames) {
+        if (line.size() + name.size() + 1 > kWidth) {
+            text += kIndent + line + "\n";
+            line.clear();
+        }
+        line.append(line.empty() ? "" : " ").append(name);
+    }
+    return text + kIndent + line + "\n" + kUsageBehindKinds;
+}
+
+/// Takes an option with its value. Gives what is wrong with it, or the empty text.
+std::string take(int found, const std::string &value, Options &options) {
+    const auto form = indexOf(value, kForms);
+    const auto clock = indexOf(value, kClocks);
+    switch (found) {
+    case Found::form:
+        if (!form)
+            return "unknown form '" + printable(value) +
+                   "'; there are timecode, line and paragraph";
+        options.form = static_cast<Form>(*form);
+        return "";
+    case Found::clock:
+        if (!clock)
+            return "unknown clock '" + printable(value) + "'; there are unbuffered and scc";
+        options.clock = static_cast<Clock>(*clock);
+        return "";
+    case Found::outputFolder:
+        options.outputFolder = value;
+        return value.empty() ? "option '--output-dir' needs a value" : "";
+    case Found::force:
+        options.force = true;
+        return "";
+    case Found::explain:
+    case Found::check:
+        if (options.task != Task::transcribe)
+            return "--explain and --check are two tasks";
+        options.task = found == Found::explain ? Task::explain : Task::check;
+        return "";
+    case Found::without:
+        return leaveOut(value, options.kinds);
+    default: // json
+        options.json = true;
+        return "";
+    }
+}
+
+/// What does not go together; empty when all does.
+std::string contradiction(const Options &options) {
+    if (options.files.empty())
+        return "no file was named";
+    if (!options.kinds.all() && options.task != Task::check)
+        return "--without goes with --check";
+    if (options.json && options.task == Task::transcribe)
+        return "--json goes with --explain or --check";
+    if ((options.force || !options.outputFolder.empty()) && options.task != Task::transcribe)
+        return "--output-dir and --force are for transcripts alone";
+    return "";
 }
 
 } // namespace
 
-Options readOptions(const std::vector<std::string> &arguments) {
+Options readOptions(int count, char **arguments, bool inputIsPiped) {
     Options options;
-    bool onlyFiles = false;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string &argument = arguments[i];
-        if (onlyFiles || !argument.starts_with("-") || argument == "-") {
-            options.files.push_back(argument);
-            continue;
-        }
-        if (argument == "--help")
-            return answered(kUsage);
-        if (argument == "--version")
+    opterr = 0;
+    for (;;) {
+        const int found = getopt_long(count, arguments, ":h", kOptions.data(), nullptr);
+        if (found < 0)
+            break;
+        if (found == 'h')
+            return answered(usage());
+        if (found == Found::version)
             return answered("norvane-transcript " NORVANE_VERSION "\n");
-        if (argument == "--") {
-            onlyFiles = true;
-            continue;
+        if (found == ':')
+            return wrong("option '" + std::string(arguments[optind - 1]) + "' needs a value");
+        if (found == '?') {
+            const bool isLetter = optopt > 0 && optopt < Found::form;
+            return wrong(unknownOption(isLetter ? std::string("-") + static_cast<char>(optopt)
+                                                : arguments[optind - 1]));
         }
-        if (argument == "--force") {
-            options.force = true;
-            continue;
-        }
-        const std::size_t equals = argument.find('=');
-        const std::string name = argument.substr(0, equals);
-        if (name != "--form" && name != "--clock" && name != "--output-dir")
-            return wrong("unknown option '" + argument + "'");
-        if (equals == std::string::npos && i + 1 == arguments.size())
-            return wrong("option '" + name + "' needs a value");
-        const std::string value =
-            equals == std::string::npos ? arguments[++i] : argument.substr(equals + 1);
-        if (name == "--form" && value != "timecode" && value != "line" && value != "paragraph")
-            return wrong("'" + value + "' is no form; there are timecode, line and paragraph");
-        if (name == "--clock" && value != "unbuffered" && value != "scc")
-            return wrong("'" + value + "' is no clock; there are unbuffered and scc");
-        if (value.empty())
-            return wrong("option '" + name + "' needs a value");
-        (name == "--form"    ? options.form
-         : name == "--clock" ? options.clock
-                             : options.outputFolder) = value;
+        const std::string problem = take(found, optarg == nullptr ? "" : optarg, options);
+        if (!problem.empty())
+            return wrong(problem);
     }
-    return options.files.empty() ? wrong("no file was named") : options;
+    options.files.assign(arguments + optind, arguments + count);
+    if (options.files.empty() && inputIsPiped)
+        options.files.emplace_back("-");
+    const std::string problem = contradiction(options);
+    return problem.empty() ? options : wrong(problem);
 }
 
 } // namespace norvane

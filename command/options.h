@@ -1,24 +1,34 @@
 #pragma once
 
+#include "decode/data_line.h"
+#include "explain/findings.h"
+#include "transcript/layout.h"
+
 #include <string>
 #include <vector>
 
 namespace norvane {
 
+enum class Task { transcribe, explain, check };
+
 /// What a call of norvane-transcript asks for.
 struct Options {
-    std::string form = "timecode";    // or "line" or "paragraph"
-    std::string clock = "unbuffered"; // or "scc"
-    std::string outputFolder{};       // empty: standard output
+    Task task = Task::transcribe;
+    Form form = Form::timecode;
+    Clock clock = Clock::unbuffered;
+    std::string outputFolder{}; // empty: standard output
     bool force = false;
-    std::vector<std::string> files{};
+    bool json = false;
+    FindingKinds kinds = FindingKinds().set();
+    std::vector<std::string> files{}; // "-" is standard input
 
     /// When not empty, all there is to do: print this and end with exitStatus.
     std::string answer{};
     int exitStatus = 0;
 };
 
-/// Reads the arguments behind the program's name. Wrong usage gives an answer with exit status 2.
-Options readOptions(const std::vector<std::string> &arguments);
+/// Reads a program's arguments, its own name first. Wrong usage gives an answer with exit status 2.
+/// Without a file, it is standard input when `inputIsPiped`.
+Options readOptions(int count, char **arguments, bool inputIsPiped);
 
 } // namespace norvane

@@ -7,6 +7,13 @@
 
 namespace norvane {
 
+constexpr std::string_view kNotSccMessage = "This file does not have the .scc extension.";
+
+bool isSccName(std::string_view name) {
+    static const RegEx patternRegEx(".scc");
+    return patternRegEx.Search(name).has_value();
+}
+
 std::vector<std::string_view> keptLines(std::string_view text) {
     constexpr std::size_t kShortLine = 80; // bytes; room for more lines than nearly all files have
     std::vector<std::string_view> lineArray;

@@ -10,6 +10,13 @@
 /// them a header that nobody looks at, and all others data lines.
 namespace norvane {
 
+/// Whether the name of a file, without its folder, holds "scc" in either case and a character
+/// before it. Another file is not read.
+bool isSccName(std::string_view name);
+
+/// What the user is told of another file.
+extern const std::string_view kNotSccMessage;
+
 /// The lines of a file that count, the header first: views of `text`.
 std::vector<std::string_view> keptLines(std::string_view text);
 

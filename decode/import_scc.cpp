@@ -1,4 +1,4 @@
-#include "framework/text/regex.h"
+#include "decode/data_line.h"
 #include "framework/windows/desktop.h"
 #include "shell/file_types.h"
 #include "shell/window1.h"
@@ -6,8 +6,7 @@
 namespace norvane {
 
 bool Window1::isSccName(const std::string &name) {
-    static const RegEx patternRegEx(".scc");
-    return patternRegEx.Search(name).has_value();
+    return norvane::isSccName(name);
 }
 
 void Window1::importSCC() {
@@ -16,7 +15,7 @@ void Window1::importSCC() {
     if (!item)
         return;
     if (!isSccName(item->Name())) {
-        MsgBox("This file does not have the .scc extension.");
+        MsgBox(std::string(kNotSccMessage));
         clearScreen();
         return;
     }

@@ -1,7 +1,10 @@
 #include "decode/caption.h"
 #include "decode/replacement_chain.h"
+#include "explain/check.h"
+#include "explain/report.h"
 #include "framework/text/failures.h"
 #include "tests/support/plain_walk.h"
+#include "transcript/layout.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -29,12 +32,38 @@ void compare(std::string_view hexText) {
         std::abort();
 }
 
+/// Any bytes as a file: each line's explanation has the line's entry, and all of it can be told.
+void explainAll(const std::string &text) {
+    using namespace norvane;
+    std::string told;
+    const std::vector<Finding> findings = check(text, FindingKinds().set());
+    for (const Finding &finding : findings)
+        told += reportOf(finding, "") + jsonOf(finding, "");
+    SccReader reader(text);
+    while (const auto line = reader.next()) {
+        const Explanation explanation = explain(*line, Clock::scc, findings);
+        told += reportOf(explanation, "") + jsonOf(explanation, "");
+        if (line->refusal)
+            continue;
+        const std::string entry = captionOrFailure([&] {
+            TextArray timecodes;
+            TextArray captions;
+            appendEntry(line->data, Clock::scc, timecodes, captions);
+            return composeTranscript(Form::line, captions, timecodes);
+        });
+        if (entry != (explanation.entry ? *explanation.entry + "\n" : "no pair"))
+            std::abort();
+    }
+}
+
 } // namespace
 
 /// Any bytes as a line's hex text, and as the bytes that its words stand for: the plain walk and
 /// the product must agree.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    compare({reinterpret_cast<const char *>(data), size});
+    const std::string text(reinterpret_cast<const char *>(data), size);
+    compare(text);
+    explainAll(text);
     std::string words;
     for (std::size_t i = 0; i < size; ++i) {
         constexpr std::string_view kDigits = "0123456789abcdef";
@@ -44,5 +73,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             words += ' ';
     }
     compare(words);
+    explainAll("\n00:00:00:00\t9420\n00:00:00;02\t" + words);
     return 0;
 }

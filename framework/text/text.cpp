@@ -146,8 +146,8 @@ bool isAscii(std::string_view text) {
     return all < 0x80;
 }
 
-std::string inQuotes(std::string_view text) {
-    std::string result = "“";
+std::string printable(std::string_view text) {
+    std::string result;
     while (!text.empty()) {
         const std::size_t size = characterSize(text);
         const auto last = static_cast<unsigned char>(text[size - 1]);
@@ -156,7 +156,11 @@ std::string inQuotes(std::string_view text) {
         result += control ? std::string_view("?") : text.substr(0, size);
         text.remove_prefix(size);
     }
-    return result + "”";
+    return result;
+}
+
+std::string inQuotes(std::string_view text) {
+    return "“" + printable(text) + "”";
 }
 
 std::string startInQuotes(std::string_view text) {

@@ -64,8 +64,11 @@ std::size_t characterSize(std::string_view text);
 /// True when every byte of `text` is ASCII, so that its bytes are its characters.
 bool isAscii(std::string_view text);
 
-/// A name or path in quotation marks for a message, with "?" for each control character (those of
-/// ASCII, U+0080 to U+009F, and single bytes of that range, which some terminals obey).
+/// `text` with "?" for each control character: those of ASCII, U+0080 to U+009F, and single bytes
+/// of that range, which some terminals obey.
+std::string printable(std::string_view text);
+
+/// A name or path in quotation marks for a message, control characters replaced.
 std::string inQuotes(std::string_view text);
 
 /// The same of a text's first 40 characters, with "…" when there are more.

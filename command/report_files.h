@@ -1,0 +1,24 @@
+#pragma once
+
+#include "command/options.h"
+
+#include <string>
+
+namespace norvane {
+
+/// A file of the command line and one of its lines.
+struct Place {
+    std::string path;
+    std::size_t line = 0; // 0: all
+};
+
+/// Takes FILE[:LINE] apart. The whole is a file's name when there is a file of that name.
+Place placeOf(const std::string &argument);
+
+/// Prints explanations of the lines of a file, or of one of them. Throws Problem and IOException.
+void explainFile(const Place &place, const Options &options);
+
+/// Prints the findings on a file. False when there are some. Throws Problem and IOException.
+bool checkFile(const std::string &path, const Options &options);
+
+} // namespace norvane

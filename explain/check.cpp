@@ -1,0 +1,66 @@
+#include "explain/check.h"
+
+#include "explain/check_codes.h"
+#include "explain/check_timecodes.h"
+#include "explain/refusal_help.h"
+#include "framework/text/text.h"
+
+#include <algorithm>
+
+namespace norvane {
+
+namespace {
+
+/// What is wrong with the first line; the empty text when nothing is.
+std::string headerFault(std::string_view header) {
+    constexpr std::string_view kHeader = "Scenarist_SCC V1.0";
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (header.empty())
+        return "The file is empty: ask for it again.";
+    if (header.starts_with(kByteOrderMark))
+        header.remove_prefix(kByteOrderMark.size());
+    if (header.starts_with(kHeader))
+        return "";
+    if (std::holds_alternative<DataLine>(takeApart(header)))
+        return "The file has no header, so that its first caption counts as one and is lost: put "
+               "the line “Scenarist_SCC V1.0” ahead of it.";
+    return "The first line is " + startInQuotes(header) +
+           ", and not “Scenarist_SCC V1.0”, by which programs know the format: correct it.";
+}
+
+} // namespace
+
+std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
+    Findings findings(wanted);
+    SccReader reader(text);
+    const std::string foreign = foreignFormat(text);
+    const std::string fault = foreign.empty() ? headerFault(reader.header()) : foreign;
+    if (!fault.empty())
+        findings.add(reader.headerNumber(), FindingKind::header, fault);
+    if (!foreign.empty())
+        return findings.list(); // all else would follow from that
+    TimecodeCheck timecodes;
+    CodeCheck codes(text);
+    ColumnCheck columns;
+    while (const auto line = reader.next()) {
+        if (line->refusal) {
+            findings.add(line->number,
+                         *line->refusal == Refusal::noTab ? FindingKind::tab
+                                                          : FindingKind::timecode,
+                         refusalHelp(text, line->text));
+            continue;
+        }
+        timecodes.look(*line, findings);
+        codes.look(*line, findings);
+        columns.look(*line, findings);
+        if (findings.wants(FindingKind::digits) || findings.wants(FindingKind::altered))
+            checkEntry(*line, LineWalk(*line), findings);
+    }
+    codes.tellSingles(findings);
+    std::vector<Finding> list = findings.list();
+    std::stable_sort(list.begin(), list.end(),
+                     [](const Finding &a, const Finding &b) { return a.line < b.line; });
+    return list;
+}
+
+} // namespace norvane

@@ -1,0 +1,106 @@
+#include "explain/explanation.h"
+
+#include "explain/advice.h"
+#include "explain/check.h"
+#include "explain/refusal_help.h"
+#include "framework/text/text.h"
+
+#include <algorithm>
+
+namespace norvane {
+
+namespace {
+
+std::size_t timesSent(const std::vector<SccWord> &words, std::size_t first) {
+    std::size_t end = first + 1;
+    if (words[first].meaning.kind == CodeKind::filler) {
+        while (end < words.size() && words[end].meaning.kind == CodeKind::filler)
+            ++end;
+    } else if (end < words.size() && words[end].repeats &&
+               words[end].digits == words[first].digits) {
+        ++end;
+    }
+    return end - first;
+}
+
+std::vector<ExplainedWord> explainWords(const SccLine &line, const LineWalk &walk) {
+    std::vector<ExplainedWord> rows;
+    for (std::size_t i = 0; i < line.words.size(); i += rows.back().times) {
+        const SccWord &word = line.words[i];
+        const std::size_t times = timesSent(line.words, i);
+        rows.push_back({i, word.digits, times, word.service,
+                        word.isCode ? word.meaning.name : "not four hex digits",
+                        word.isCode && !word.parity, walk.fateOf(i, times)});
+    }
+    return rows;
+}
+
+std::vector<std::string> textsOf(const std::vector<Finding> &findings, std::size_t line) {
+    std::vector<std::string> texts;
+    for (const Finding &finding : findings) {
+        if (finding.line == line)
+            texts.push_back(finding.text);
+    }
+    return texts;
+}
+
+} // namespace
+
+Explanation explainHeader(std::string_view header, std::size_t number,
+                          const std::vector<Finding> &findings) {
+    Explanation explanation;
+    explanation.isHeader = true;
+    explanation.line.number = number;
+    explanation.line.text = header;
+    explanation.advice = textsOf(findings, number);
+    return explanation;
+}
+
+Explanation explain(const SccLine &line, Clock clock, const std::vector<Finding> &findings) {
+    Explanation explanation;
+    explanation.line = line;
+    explanation.advice = textsOf(findings, line.number);
+    if (line.refusal)
+        return explanation;
+    TextArray timecodes;
+    TextArray captions;
+    try {
+        appendEntry(line.data, clock, timecodes, captions);
+    } catch (const OutOfBoundsException &failure) {
+        explanation.advice.insert(explanation.advice.begin(),
+                                  "No transcript can be written: " + std::string(failure.what()) +
+                                      " " + entryHelp(line.data, clock));
+    }
+    const LineWalk walk(line);
+    if (!timecodes.empty())
+        explanation.start = Replace(timecodes[0], ",", ".");
+    if (!captions.empty())
+        explanation.entry = walk.entry();
+    explanation.words = explainWords(line, walk);
+    constexpr unsigned kEndOfCaption = 0x142F;
+    for (const SccWord &word : line.words) {
+        if (word.meaning.code == kEndOfCaption && !explanation.shownAt)
+            explanation.shownAt = static_cast<std::size_t>(&word - line.words.data());
+    }
+    Findings ofEntry{FindingKinds().set()};
+    checkEntry(line, walk, ofEntry);
+    for (const Finding &finding : ofEntry.list())
+        explanation.advice.push_back(finding.text);
+    adviseOnEntry(line, walk, explanation.advice);
+    return explanation;
+}
+
+std::string became(const WordFate &fate) {
+    std::string text;
+    if (fate.isBlank)
+        text = "blank";
+    else if (!fate.text.empty())
+        text = inQuotes(fate.text);
+    if (!fate.swallowed.empty())
+        return text + (text.empty() ? "" : ", ") + fate.swallowed + " swallowed";
+    if (!fate.kept.empty())
+        return text + ", " + printable(fate.kept) + " kept";
+    return !text.empty() ? text : fate.isShared ? "read with the word before" : "deleted";
+}
+
+} // namespace norvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "decode/data_line.h"
+
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+/// What a text is when it is no SCC file at all but UTF-16, subtitles of another format, or nothing
+/// but NULs, and what to do; empty when it may be one.
+std::string foreignFormat(std::string_view text);
+
+/// What stands in a line that was refused, and what to do. `text` is the whole file.
+std::string refusalHelp(std::string_view text, std::string_view line);
+
+/// What to do about a data line whose entry failed.
+std::string entryHelp(const DataLine &line, Clock clock);
+
+} // namespace norvane

@@ -1,0 +1,65 @@
+#include "explain/said_text.h"
+
+#include "framework/text/text.h"
+
+namespace norvane {
+
+namespace {
+
+bool isGap(const SaidText &character) {
+    return character.text.empty() || character.text == " ";
+}
+
+/// The characters of a line, and an empty one for each code without any.
+std::vector<SaidText> charactersOf(const SccLine &line) {
+    std::vector<SaidText> characters;
+    for (const SccWord &word : line.words) {
+        const std::size_t end = word.at + word.digits.size();
+        if (word.meaning.kind == CodeKind::extended && !characters.empty() &&
+            !isGap(characters.back()))
+            characters.pop_back(); // it takes its place
+        if (word.meaning.kind == CodeKind::text) {
+            // One character for each byte that is not a filler.
+            std::string_view shown = word.meaning.shown;
+            for (std::size_t at = word.at; !shown.empty(); at += 2) {
+                if (at == word.at && (word.meaning.code >> 8U) == 0)
+                    continue;
+                const std::size_t size = characterSize(shown);
+                characters.push_back({std::string(shown.substr(0, size)), at, at + 2});
+                shown.remove_prefix(size);
+            }
+        } else if (word.meaning.kind != CodeKind::filler) {
+            characters.push_back({word.meaning.shown, word.at, end});
+        }
+    }
+    return characters;
+}
+
+} // namespace
+
+SaidText saidAround(const SccLine &line, std::size_t first, std::size_t last) {
+    const std::vector<SaidText> characters = charactersOf(line);
+    std::size_t from = 0;
+    while (from < characters.size() && characters[from].end <= first)
+        ++from;
+    std::size_t to = from;
+    while (to < characters.size() && characters[to].start <= last)
+        ++to;
+    // Gaps at the ends are not part of it, letters beyond them are.
+    while (from < to && isGap(characters[from]))
+        ++from;
+    while (from < to && isGap(characters[to - 1]))
+        --to;
+    if (from == to)
+        return {};
+    while (from > 0 && !isGap(characters[from - 1]))
+        --from;
+    while (to < characters.size() && !isGap(characters[to]))
+        ++to;
+    SaidText said{"", characters[from].start, characters[to - 1].end};
+    for (std::size_t i = from; i < to; ++i)
+        said.text += characters[i].text;
+    return said;
+}
+
+} // namespace norvane

@@ -12,7 +12,7 @@ void Window1::importSCCFolderSingle() {
         return;
     }
     std::vector<std::string> sourceList;
-    for (std::size_t i = 1; chosenItem->Directory() && i <= chosenItem->Count(); ++i) {
+    for (std::size_t i = 1; i <= chosenItem->Count(); ++i) { // whatever is no folder holds nothing
         const Ref<FolderItem> item = chosenItem->Item(i);
         if (!item)
             return;

@@ -56,7 +56,6 @@ bool readNames(Handle folder, std::vector<std::string> &names) {
         return false;
     folder.release();
     for (;;) {
-        errno = 0;
         const dirent *entry = systemCalls.readdir(listing.get());
         if (entry == nullptr)
             return errno == 0;

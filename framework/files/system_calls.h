@@ -20,12 +20,19 @@ struct Call<Result(Parameters...)> {
     Result (*function)(Parameters...);
 
     Result operator()(Parameters... parameters) const {
-        Result result = function(parameters...);
-        if constexpr (std::is_integral_v<Result>) {
-            while (result == -1 && errno == EINTR)
-                result = function(parameters...);
+        for (;;) {
+            errno = 0; // the end of a listing leaves it as it is
+            const Result result = function(parameters...);
+            if (!isFailure(result) || errno != EINTR)
+                return result;
         }
-        return result;
+    }
+
+    static bool isFailure(Result result) {
+        if constexpr (std::is_pointer_v<Result>)
+            return result == nullptr;
+        else
+            return result == -1;
     }
 };
 

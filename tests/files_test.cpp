@@ -3,6 +3,7 @@
 #include "tests/support/scenario.h"
 
 #include <fcntl.h>
+#include <fstream>
 #include <sys/file.h>
 #include <sys/stat.h>
 
@@ -11,6 +12,24 @@ namespace {
 
 class Files : public testing::Test {
   protected:
+    ~Files() override { disk::systemCalls = {}; }
+
+    void write(const std::string &name, const std::string &text, mode_t mode) const {
+        folder.write(name, text);
+        chmod(folder.path(name).c_str(), mode);
+    }
+    struct stat statusOf(const std::string &name) const {
+        struct stat status {};
+        EXPECT_EQ(lstat(folder.path(name).c_str(), &status), 0) << name;
+        return status;
+    }
+    mode_t modeOf(const std::string &name) const { return statusOf(name).st_mode & 07777U; }
+    /// Makes a link that belongs to `user`.
+    void link(const std::string &target, const std::string &name, uid_t user) const {
+        std::filesystem::create_symlink(target, folder.path(name));
+        EXPECT_EQ(lchown(folder.path(name).c_str(), user, user), 0);
+    }
+
     TemporaryFolder folder;
 };
 
@@ -96,6 +115,171 @@ TEST_F(Files, WhatAKilledWriterLeftIsRemovedAndNoOthers) {
     folder.item("a.txt")->CreateTextFile()->Close();
     close(atWork);
     EXPECT_EQ(folder.tree(), (Lines{".norvane-2.part", ".norvane-notes", "a.txt"}));
+}
+
+TEST_F(Files, WhatCannotBeLookedAtIsNotMissing) {
+    std::filesystem::create_symlink("loop", folder.path("loop"));
+    const auto loop = folder.item("loop");
+    const auto reach = [&](auto look) {
+        try {
+            look();
+        } catch (const IOException &failure) {
+            return std::string(failure.what());
+        }
+        return std::string("no failure");
+    };
+    const std::string problem =
+        "“" + folder.path("loop") + "” cannot be reached: Too many levels of symbolic links.";
+    EXPECT_EQ(reach([&] { loop->Exists(); }), problem);
+    EXPECT_EQ(reach([&] { loop->AbsolutePath(); }), problem);
+    EXPECT_EQ(reach([&] { loop->Child("x"); }), problem);
+    EXPECT_EQ(reach([&] { loop->Count(); }), problem);
+    EXPECT_FALSE(loop->Directory());
+    EXPECT_TRUE(folder.item("loop/x")) << "may well be there";
+    // As many links on a way as the system itself follows.
+    for (int i = 0; i < 41; ++i)
+        std::filesystem::create_symlink("link" + std::to_string(i + 1),
+                                        folder.path("link" + std::to_string(i)));
+    folder.write("link41", "");
+    EXPECT_TRUE(folder.item("link1")->OpenAsTextFile());
+    EXPECT_FALSE(folder.item("link0")->OpenAsTextFile());
+}
+
+TEST_F(Files, PermissionBits) {
+    const mode_t before = umask(027);
+    folder.item("new")->CreateTextFile()->Close();
+    folder.item("private")->CreatePrivateTextFile()->Close();
+    write("shared", "", 0664);
+    folder.item("shared")->CreatePrivateTextFile()->Close();
+    write("set", "", 06775);
+    folder.item("set")->CreateTextFile()->Close();
+    chmod(folder.path().c_str(), 0777);
+    {
+        const OrdinaryUser user;
+        for (const char *text :
+             {"first", "second"}) { // the copy is for reading only, and gives way
+            write("source", text, 0);
+            chmod(folder.path("source").c_str(), 04444);
+            folder.item("source")->CopyFileTo(*folder.item("copy"), CopyOf::whatGoes);
+            EXPECT_EQ(folder.read("copy"), text);
+            chmod(folder.path("source").c_str(), 0666);
+        }
+        EXPECT_FALSE(folder.item("copy")->CreateTextFile());
+        folder.item("source")->CopyFileTo(*folder.item("open"), CopyOf::whatStays);
+    }
+    umask(before);
+    EXPECT_EQ(modeOf("new"), 0640U);
+    EXPECT_EQ(modeOf("private"), 0600U);
+    EXPECT_EQ(modeOf("shared"), 0664U);
+    EXPECT_EQ(modeOf("set"), 0775U);
+    EXPECT_EQ(modeOf("copy"), 0444U);
+    EXPECT_EQ(modeOf("open"), 0666U);
+}
+
+TEST_F(Files, ACopyThatIsThereIsLeftAloneAndOnlyWhatMustLastIsFlushed) {
+    static int flushes;
+    disk::systemCalls.fsync = {[](int) { return ++flushes, 0; }};
+    const auto copy = [&](CopyOf use) { // tells how many flushes it took, and whether it was new
+        const ino_t before = folder.has("copy") ? statusOf("copy").st_ino : 0;
+        const Handle keepsItsNumber(open(folder.path("copy").c_str(), O_RDONLY));
+        flushes = 0;
+        folder.item("source")->CopyFileTo(*folder.item("copy"), use);
+        EXPECT_EQ(folder.read("copy"), folder.read("source"));
+        EXPECT_EQ(modeOf("copy"), modeOf("source"));
+        return std::pair(flushes, statusOf("copy").st_ino != before);
+    };
+    std::string text(100000, 'x'); // more than is compared at once
+    write("source", text, 0644);
+    EXPECT_EQ(copy(CopyOf::whatStays), std::pair(0, true));
+    EXPECT_EQ(copy(CopyOf::whatStays), std::pair(0, false));
+    EXPECT_EQ(copy(CopyOf::whatGoes), std::pair(2, false));
+    text.back() = 'y';
+    write("source", text, 0644);
+    EXPECT_EQ(copy(CopyOf::whatGoes), std::pair(2, true));
+    write("source", text, 0600);
+    EXPECT_EQ(copy(CopyOf::whatStays), std::pair(0, true));
+    write("source", text + "z", 0600);
+    EXPECT_EQ(copy(CopyOf::whatStays), std::pair(0, true));
+    flushes = 0;
+    folder.item("text")->CreateTextFile()->Close();
+    EXPECT_EQ(flushes, 2);
+}
+
+TEST_F(Files, AFileThatGrowsEndsWhereItEnded) {
+    static std::string path;
+    path = folder.path("busy");
+    folder.write("busy", std::string(100000, 'x'));
+    disk::systemCalls.read = {[](int file, void *bytes, std::size_t size) {
+        std::ofstream(path, std::ios::app) << "more";
+        return ::read(file, bytes, size);
+    }};
+    folder.item("busy")->CopyFileTo(*folder.item("copy"), CopyOf::whatStays);
+    EXPECT_EQ(folder.read("copy").size(), 100000U);
+    const std::size_t before = folder.read("busy").size();
+    EXPECT_GT(before, 100000U);
+    EXPECT_EQ(folder.item("busy")->OpenAsTextFile()->ReadLine().size(), before);
+    std::filesystem::resize_file(path, 3);
+    disk::systemCalls.read = {[](int file, void *bytes, std::size_t size) {
+        std::filesystem::resize_file(path, 1);
+        return ::read(file, bytes, size);
+    }};
+    EXPECT_EQ(folder.item("busy")->OpenAsTextFile()->ReadLine(), "x");
+}
+
+TEST_F(Files, AFolderIsLockedByOneAtATime) {
+    folder.write("file", "");
+    {
+        const auto lock = folder.item("")->Lock();
+        EXPECT_TRUE(lock && lock->isOpen());
+        EXPECT_FALSE(folder.item("")->Lock());
+    }
+    EXPECT_TRUE(folder.item("")->Lock());
+    EXPECT_FALSE(folder.item("file")->Lock()->isOpen());
+    disk::systemCalls.flock = {[](int, int) { return errno = ENOLCK, -1; }};
+    EXPECT_FALSE(folder.item("")->Lock()->isOpen());
+}
+
+TEST_F(Files, OnlyLinksOfTheUserAndOfRootAreFollowed) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make links of other users";
+    constexpr uid_t kStranger = 1;
+    folder.write("home/keys", "keys");
+    for (const uid_t user : {uid_t{0}, uid_t{65534}, kStranger}) {
+        const std::string suffix = std::to_string(user);
+        link("home", "folder" + suffix, user);
+        link("home/keys", "keys" + suffix, user);
+    }
+    const auto isFollowed = [&](const std::string &suffix) {
+        const auto keys = folder.item("keys" + suffix);
+        EXPECT_TRUE(keys->Exists());
+        const bool followed = bool(keys->OpenAsTextFile());
+        keys->CopyFileTo(*folder.item("copy" + suffix), CopyOf::whatStays);
+        EXPECT_EQ(folder.has("copy" + suffix), followed);
+        EXPECT_EQ(bool(folder.item("")->Child("keys" + suffix)), followed);
+        EXPECT_EQ(folder.item("folder" + suffix)->Directory(), followed);
+        EXPECT_EQ(folder.item("folder" + suffix)->Count(), followed ? 1U : 0U);
+        EXPECT_EQ(bool(folder.item("folder" + suffix + "/keys")), followed);
+        return followed;
+    };
+    chmod(folder.path().c_str(), 0777);
+    EXPECT_TRUE(isFollowed("0"));
+    EXPECT_FALSE(isFollowed("65534"));
+    EXPECT_FALSE(isFollowed("1"));
+    {
+        const OrdinaryUser user;
+        EXPECT_TRUE(isFollowed("0"));
+        EXPECT_TRUE(isFollowed("65534"));
+        EXPECT_FALSE(isFollowed("1"));
+        // A copy or a text takes the place of a stranger's link.
+        folder.item("copy0")->CopyFileTo(*folder.item("keys1"), CopyOf::whatStays);
+        folder.item("folder1")->CreateTextFile()->Close();
+    }
+    EXPECT_TRUE(S_ISREG(statusOf("keys1").st_mode) && S_ISREG(statusOf("folder1").st_mode));
+    EXPECT_EQ(folder.read("keys1"), "keys");
+    // Deleting a link leaves what it leads to.
+    folder.item("keys0")->Delete();
+    EXPECT_EQ(folder.read("home/keys"), "keys");
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.path("keys0")));
 }
 
 } // namespace

@@ -268,6 +268,53 @@ TEST_F(HotFolder, PermissionsThatAreMissing) {
     EXPECT_TRUE(folder.has("watch/show.scc"));
 }
 
+TEST_F(HotFolder, LinksThatOthersPlanted) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make links of other users";
+    const auto plant = [this](const std::string &target, const std::string &name) {
+        std::filesystem::create_symlink(folder.path(target), folder.path(name));
+        EXPECT_EQ(lchown(folder.path(name).c_str(), 1, 1), 0);
+    };
+    for (const char *name : {"keys", "diary", "x.txt"})
+        folder.write(std::string("home/") + name, "the user's own");
+    input("show.scc", {hiLine("00:00:01:00")});
+    plant("home", "dest/scc files");
+    EXPECT_EQ(watch(), Lines{"Could not locate the Destination folder. Please use the Browse "
+                             "button and reselect it."});
+    std::filesystem::remove(folder.path("dest/scc files"));
+    std::filesystem::create_directory(folder.path("dest/scc files"));
+    plant("home/keys", "dest/scc files/keys");
+    folder.write("watch/keys", "a stranger's");
+    plant("home/diary", "watch/loot");
+    folder.write("dest/show.txt", "older");
+    plant("home/x.txt", "dest/show_1.txt");
+    EXPECT_EQ(cycle(), Lines{});
+    plant("home/diary", "watch/b.scc");
+    EXPECT_EQ(wait(), Lines{failed("“" + folder.path("watch/b.scc") +
+                                   "” is a link that belongs to another user.")});
+    EXPECT_EQ(folder.tree(), (Lines{"dest/", "dest/b.txt", "dest/scc files/", "dest/scc files/keys",
+                                    "dest/scc files/show.scc", "dest/show.txt", "dest/show_1.txt",
+                                    "home/", "home/diary", "home/keys", "home/x.txt", "watch/",
+                                    "watch/b.scc", "watch/keys", "watch/loot"}));
+    for (const char *name : {"keys", "diary", "x.txt"})
+        EXPECT_EQ(folder.read(std::string("home/") + name), "the user's own");
+    EXPECT_EQ(folder.read("dest/scc files/keys"), "a stranger's");
+    EXPECT_EQ(folder.read("dest/show_1.txt"), hiTranscript("show.scc", {"00:00:01.33"}));
+    EXPECT_EQ(folder.read("dest/b.txt"), hiTranscript("b.scc", {}));
+}
+
+TEST_F(HotFolder, AnotherProgramsCycleIsLeftAlone) {
+    EXPECT_EQ(watch(), Lines{});
+    input("show.scc", {hiLine("00:00:01:00")});
+    {
+        const auto lock = folder.item("watch")->Lock();
+        EXPECT_EQ(wait(), Lines{});
+        EXPECT_EQ(folder.tree(), (Lines{"dest/", "dest/scc files/", "watch/", "watch/show.scc"}));
+    }
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_TRUE(folder.has("dest/show.txt"));
+}
+
 TEST_F(HotFolder, FoldersThatAreMissingOrNone) {
     EXPECT_EQ(watch(), Lines{});
     input("show.scc", {hiLine("00:00:01:00")});

@@ -22,10 +22,19 @@ _norvane_transcript() {
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -d -- "$word")
         ;;
+    --without)
+        compopt -o nospace # another kind may follow
+        mapfile -t COMPREPLY < <(
+            compgen -P "${word%"${word##*,}"}" -W 'header tab timecode timecode-form frame dropped-frame
+                separator order overlap word parity single channel field text-mode columns code digits
+                altered' -- "${word##*,}"
+        )
+        ;;
     *)
         if [[ $word == -* ]]; then
             mapfile -t COMPREPLY < <(
-                compgen -W '--form --clock --output-dir --force --help --version' -- "$word"
+                compgen -W '--form --clock --output-dir --force --explain --check --without --json --help
+                    --version' -- "$word"
             )
         else
             _norvane_transcript_files "$word"

@@ -1,5 +1,10 @@
 # Completion of norvane-transcript for fish.
 
+# Folders, and files that end in .scc in either case.
+function __norvane_transcript_files
+    __fish_complete_path (commandline -ct) | string match -rei '^[^\t]*(?:\.scc|/)(?:\t|$)'
+end
+
 complete -c norvane-transcript -f
 complete -c norvane-transcript -l form -x -d 'Layout of the captions' -a '
     timecode\t"Start times, empty lines between"
@@ -11,6 +16,11 @@ complete -c norvane-transcript -l clock -x -d 'Start times' -a '
 complete -c norvane-transcript -l output-dir -x -a '(__fish_complete_directories)' \
     -d 'Write a text file for each into a folder'
 complete -c norvane-transcript -l force -d 'Replace transcripts that exist already'
-complete -c norvane-transcript -l help -d 'Print the usage'
+complete -c norvane-transcript -l explain -d 'Print what became of each word'
+complete -c norvane-transcript -l check -d 'Print what is wrong with files'
+complete -c norvane-transcript -l without -x -d 'Leave out kinds of findings' \
+    -a '(__fish_append , header tab timecode timecode-form frame dropped-frame separator order overlap word parity single channel field text-mode columns code digits altered)'
+complete -c norvane-transcript -l json -d 'Print one JSON object a line'
+complete -c norvane-transcript -s h -l help -d 'Print the usage'
 complete -c norvane-transcript -l version -d 'Print the version'
-complete -c norvane-transcript -a '(__fish_complete_suffix .scc)'
+complete -c norvane-transcript -a '(__norvane_transcript_files)'

@@ -80,6 +80,9 @@ mkdir -p "$work/files/folder"
 cd "$work/files"
 touch a.scc B.SCC c.txt
 [ "$(completed_by_bash '' | LC_ALL=C sort | tr '\n' ' ')" = 'B.SCC a.scc folder ' ] || fail 'bash on files'
+[ "$(completed_by_fish '' | LC_ALL=C sort | tr '\n' ' ')" = 'B.SCC a.scc folder/ ' ] || fail 'fish on files'
+[ "$(completed_by_bash --without parity,ov)" = parity,overlap ] || fail 'bash on --without'
+completed_by_fish '--without parity,ov' | grep -x parity,overlap >/dev/null || fail 'fish on --without'
 
 # What the README shows is what the program prints.
 for form in timecode line paragraph; do

@@ -23,6 +23,9 @@ std::int64_t wholeMilliseconds(double value) {
 void Window1::readInterval() {
     constexpr double kMillisecondsPerMinute = 60000;
     Timer1.Period = wholeMilliseconds(Val(timerText.Text.get()) * kMillisecondsPerMinute);
+    timerText.hint = Timer1.Period > 0 ? ""
+                                       : "The folder will not be checked: this is no number of "
+                                         "minutes above 0, such as 15 or 0.5.";
 }
 
 void Window1::timerText_TextChange() {

@@ -51,7 +51,7 @@ QWidget *makeTextField(TextField &field, QWidget *parent) {
     return widget;
 }
 
-QWidget *makeLabel(Label &label, QWidget *parent) {
+QWidget *makeLabel(Label &label, QWidget *parent, const Scale &scale) {
     auto *widget = new QLabel(parent);
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(label.multiline);
@@ -60,7 +60,7 @@ QWidget *makeLabel(Label &label, QWidget *parent) {
     widget->setAttribute(Qt::WA_TransparentForMouseEvents); // labels overlap what is beside them
     if (label.TextSize > 0) {
         QFont font = widget->font();
-        font.setPixelSize(label.TextSize);
+        font.setPixelSize(scale.pixels(label.TextSize));
         widget->setFont(font);
     }
     if (label.grey) {

@@ -35,10 +35,10 @@ class ProgressWidget : public QProgressBar {
 
   protected:
     void paintEvent(QPaintEvent * /*event*/) override {
-        constexpr int kMargin = 5;
+        const int margin = height() / 4;
         QStyleOptionProgressBar option;
         initStyleOption(&option);
-        option.rect.adjust(0, kMargin, 0, -kMargin);
+        option.rect.adjust(0, margin, 0, -margin);
         QStylePainter(this).drawControl(QStyle::CE_ProgressBar, option);
     }
 

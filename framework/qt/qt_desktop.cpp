@@ -7,7 +7,9 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
+#include <QFontInfo>
 #include <QProcess>
+#include <QStyleFactory>
 
 #include <algorithm>
 #include <chrono>
@@ -15,7 +17,10 @@
 
 namespace norvane {
 
-QtDesktop::QtDesktop() {
+QtDesktop::QtDesktop()
+    : scale(QFontInfo(QApplication::font()).pixelSize()),
+      style_(*new ControlStyle(QStyleFactory::create(QApplication::style()->name()), scale)) {
+    style_.setParent(qApp); // which deletes its widgets first
     setCurrent(*this);
     // A dialog that closes while no window is shown must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -112,7 +117,8 @@ void QtDesktop::add(Window &window) {
 void QtDesktop::show(Window &window) {
     QPointer<WindowPeer> &peer = peers_[&window];
     if (!peer)
-        peer = new WindowPeer(window, *application_, pictures, [this] { quit(); });
+        peer = new WindowPeer(window, *application_, Look{scale, style_, pictures},
+                              [this] { quit(); });
     peer->show();
     peer->setAttribute(Qt::WA_KeyboardFocusChange); // so that the first focus is seen as well
     peer->setWindowState(peer->windowState() & ~Qt::WindowMinimized);

@@ -33,6 +33,9 @@ class QtDesktop : public Desktop {
     Pictures pictures;
     Dialogs dialogs;
 
+    /// Of all windows, by the desktop's font as it is when the program starts.
+    const Scale scale;
+
     /// The window on screen; null for one that is not shown.
     QWidget *peerOf(const Window &window) const;
 
@@ -65,6 +68,7 @@ class QtDesktop : public Desktop {
     void raiseTicks();
 
     Application *application_ = nullptr;
+    ControlStyle &style_;
     std::map<const Window *, QPointer<WindowPeer>> peers_;
     std::vector<Window *> windows_;
     std::vector<Timer *> timers_;

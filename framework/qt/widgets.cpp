@@ -54,7 +54,7 @@ QWidget *makeSeparator(QWidget *parent) {
     return line;
 }
 
-QWidget *widgetOfKind(Control &control, QWidget *parent, Pictures &pictures) {
+QWidget *widgetOfKind(Control &control, QWidget *parent, const Look &look) {
     if (auto *bevelButton = dynamic_cast<BevelButton *>(&control))
         return makeButton(*bevelButton, parent);
     if (auto *pushButton = dynamic_cast<PushButton *>(&control))
@@ -68,11 +68,11 @@ QWidget *widgetOfKind(Control &control, QWidget *parent, Pictures &pictures) {
     if (auto *field = dynamic_cast<TextField *>(&control))
         return makeTextField(*field, parent);
     if (auto *label = dynamic_cast<Label *>(&control))
-        return makeLabel(*label, parent);
+        return makeLabel(*label, parent, look.scale);
     if (auto *bar = dynamic_cast<ProgressBar *>(&control))
         return makeProgressBar(*bar, parent);
     if (auto *canvas = dynamic_cast<Canvas *>(&control))
-        return makePicture(pictures.find(canvas->Backdrop), parent);
+        return makePicture(look.pictures.find(canvas->Backdrop), parent);
     if (dynamic_cast<Separator *>(&control) != nullptr)
         return makeSeparator(parent);
     if (dynamic_cast<Listbox *>(&control) != nullptr)
@@ -93,12 +93,18 @@ void tellRole(QWidget *widget, QAccessible::Role role) {
     widget->setProperty(kRole, role);
 }
 
-QWidget *makeWidget(Control &control, QWidget *parent, Pictures &pictures) {
-    QWidget *widget = widgetOfKind(control, parent, pictures);
+QWidget *makeWidget(Control &control, QWidget *parent, const Look &look) {
+    QWidget *widget = widgetOfKind(control, parent, look);
+    widget->setStyle(&look.style);
     widget->setObjectName(toQt(control.Name));
-    widget->setGeometry(control.Left, control.Top, control.Width, control.Height);
+    widget->setGeometry(
+        look.scale.pixels(QRect(control.Left, control.Top, control.Width, control.Height)));
     if (!control.accessibleName.empty())
         widget->setAccessibleName(toQt(control.accessibleName));
+    follow(control.hint, widget, [&control, widget] {
+        widget->setToolTip(toQt(control.hint));
+        widget->setAccessibleDescription(toQt(control.hint));
+    });
     follow(control.Enabled, widget, [&control, widget] { widget->setEnabled(control.Enabled); });
     control.repaint = [alive = QPointer<QWidget>(widget)](bool immediately) {
         if (alive && immediately)

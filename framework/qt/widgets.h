@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/qt/control_style.h"
 #include "framework/qt/pictures.h"
 #include "framework/windows/controls.h"
 
@@ -9,11 +10,18 @@
 
 namespace norvane {
 
+/// What all windows of a desktop share.
+struct Look {
+    Scale scale;
+    ControlStyle &style; // which outlives all widgets
+    Pictures &pictures;
+};
+
 /// Makes the widget of a control: at the control's place in `parent`, showing the control's state
 /// from now on, and handing the user's changes to it under the guard. The control must outlive all
 /// input to the widget; the widget may go first. Whether it is visible is the window's affair.
 /// Throws std::logic_error for a control of a kind that has no widget.
-QWidget *makeWidget(Control &control, QWidget *parent, Pictures &pictures);
+QWidget *makeWidget(Control &control, QWidget *parent, const Look &look);
 
 /// Names the kind of a widget to screen readers, where they could not tell it by themselves. Before
 /// anything asks for it.
@@ -26,7 +34,7 @@ QWidget *makeCheckBox(CheckBox &box, QWidget *parent);
 QWidget *makeRadioButton(RadioButton &button, QWidget *parent);
 QWidget *makeArrow(PopupArrow &arrow, QWidget *parent);
 QWidget *makeTextField(TextField &field, QWidget *parent);
-QWidget *makeLabel(Label &label, QWidget *parent);
+QWidget *makeLabel(Label &label, QWidget *parent, const Scale &scale);
 QWidget *makeProgressBar(ProgressBar &bar, QWidget *parent);
 
 /// Calls `apply` now and at each change of `property`, for as long as `widget` lives.

@@ -17,8 +17,6 @@ namespace norvane {
 
 namespace {
 
-constexpr int kSystemFontPixels = 13;
-
 Qt::WindowFlags flagsOf(const Window &window) {
     Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     flags.setFlag(Qt::WindowSystemMenuHint);
@@ -43,9 +41,9 @@ void tighten(QLabel &label, int room) {
 
 } // namespace
 
-WindowPeer::WindowPeer(Window &window, Application &application, Pictures &pictures,
+WindowPeer::WindowPeer(Window &window, Application &application, const Look &look,
                        std::function<void()> quit)
-    : QWidget(nullptr, flagsOf(window)), window_(window) {
+    : QWidget(nullptr, flagsOf(window)), window_(window), look_(look) {
     setWindowTitle(toQt(window.Title));
     tellRole(this, QAccessible::Window);
     auto *column = new QVBoxLayout(this);
@@ -57,23 +55,25 @@ WindowPeer::WindowPeer(Window &window, Application &application, Pictures &pictu
     area_ = new QWidget(this);
     column->addWidget(area_);
     if (window.Resizeable) {
-        area_->setMinimumSize(window.MinWidth, window.MinHeight);
-        area_->setMaximumSize(window.MaxWidth, window.MaxHeight);
+        area_->setMinimumSize(look.scale.pixels(window.MinWidth),
+                              look.scale.pixels(window.MinHeight));
+        area_->setMaximumSize(look.scale.pixels(window.MaxWidth),
+                              look.scale.pixels(window.MaxHeight));
     } else {
         column->setSizeConstraint(QLayout::SetFixedSize);
     }
-    addControls(pictures);
+    addControls();
     keepLabelsClear();
     follow(window.Width, this, [this] { takeSize(); });
     follow(window.Height, this, [this] { takeSize(); });
 }
 
-void WindowPeer::addControls(Pictures &pictures) {
+void WindowPeer::addControls() {
     QFont font = area_->font();
-    font.setPixelSize(kSystemFontPixels);
+    font.setPixelSize(look_.scale.pixels(Scale::kDesignFont));
     area_->setFont(font);
     for (Control *control : window_.controls()) {
-        QWidget *widget = makeWidget(*control, area_, pictures);
+        QWidget *widget = makeWidget(*control, area_, look_);
         placed_.push_back({control, widget});
         follow(control->Visible, widget, [this] { showWhatIsInView(); });
     }
@@ -98,17 +98,17 @@ void WindowPeer::keepLabelsClear() {
 }
 
 void WindowPeer::takeSize() {
-    if (window_.Resizeable) {
-        resize(window_.Width, window_.Height + menuBarHeight());
-    } else {
-        area_->setFixedSize(window_.Width, window_.Height);
+    if (!window_.Resizeable) {
+        area_->setFixedSize(sizeInPixels());
         layout()->activate();
+    } else if (!resizing_) {
+        resize(sizeInPixels().grownBy({0, 0, 0, menuBarHeight()}));
     }
     showWhatIsInView();
 }
 
 void WindowPeer::showWhatIsInView() {
-    const QRect area(0, 0, window_.Width, window_.Height);
+    const QRect area(QPoint(0, 0), sizeInPixels());
     for (const auto &[control, widget] : placed_) {
         const bool wasVisible = widget->isVisible();
         widget->setVisible(control->Visible && area.intersects(widget->geometry()));
@@ -118,16 +118,21 @@ void WindowPeer::showWhatIsInView() {
 }
 
 int WindowPeer::menuBarHeight() const {
-    return menus_ != nullptr ? menus_->heightForWidth(window_.Width) : 0;
+    return menus_ != nullptr ? menus_->heightForWidth(sizeInPixels().width()) : 0;
+}
+
+QSize WindowPeer::sizeInPixels() const {
+    return {look_.scale.pixels(window_.Width), look_.scale.pixels(window_.Height)};
 }
 
 void WindowPeer::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
     if (!window_.Resizeable)
         return;
-    const QSize size = area_->size(); // the first assignment changes the area
-    window_.Width = size.width();
-    window_.Height = size.height();
+    resizing_ = true; // for a point may be more than a pixel, and a hand move by less than a point
+    window_.Width = look_.scale.points(area_->width());
+    window_.Height = look_.scale.points(area_->height());
+    resizing_ = false;
 }
 
 /// Takes back what a window manager granted though the window offers it not.
@@ -152,11 +157,11 @@ void WindowPeer::keyPressEvent(QKeyEvent *event) {
 
 /// A press close by an arrow, on nothing else, is a press on the arrow, which is small.
 void WindowPeer::mousePressEvent(QMouseEvent *event) {
-    constexpr QMargins kAround(4, 4, 4, 4);
+    const int around = look_.scale.pixels(4);
     const QPoint point = area_->mapFrom(this, event->position().toPoint());
     for (const auto &[control, widget] : placed_) {
         if (dynamic_cast<const PopupArrow *>(control) != nullptr && widget->isVisible() &&
-            widget->geometry().marginsAdded(kAround).contains(point)) {
+            widget->geometry().marginsAdded({around, around, around, around}).contains(point)) {
             widget->setFocus(Qt::MouseFocusReason);
             qobject_cast<QAbstractButton *>(widget)->click();
         }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/qt/menus.h"
-#include "framework/qt/pictures.h"
+#include "framework/qt/widgets.h"
 #include "framework/windows/window.h"
 
 #include <QWidget>
@@ -11,13 +11,13 @@
 
 namespace norvane {
 
-/// A window on screen: its menu bar, and below it an area of the model's size with the controls, in
-/// their tab order. Controls out of sight, parked outside the area or beyond its edge, are hidden,
-/// so that neither mouse, keyboard nor screen reader gets at them.
+/// A window on screen: its menu bar, and below it an area of the model's size, as the look scales
+/// it, with the controls, in their tab order. Controls out of sight, parked outside the area or
+/// beyond its edge, are hidden, so that neither mouse, keyboard nor screen reader gets at them.
 class WindowPeer : public QWidget {
   public:
     /// The peer must be hidden before `window` goes and may be deleted later.
-    WindowPeer(Window &window, Application &application, Pictures &pictures,
+    WindowPeer(Window &window, Application &application, const Look &look,
                std::function<void()> quit);
 
   protected:
@@ -28,17 +28,20 @@ class WindowPeer : public QWidget {
     void resizeEvent(QResizeEvent *event) override;
 
   private:
-    void addControls(Pictures &pictures);
+    void addControls();
     void keepLabelsClear();
     void takeSize();
     void showWhatIsInView();
     int menuBarHeight() const;
+    QSize sizeInPixels() const;
 
     struct Placed {
         const Control *control;
         QWidget *widget;
     };
     Window &window_;
+    Look look_;
+    bool resizing_ = false; // by its user, whom the model follows
     Menus *menus_ = nullptr;
     QWidget *area_ = nullptr;
     std::vector<Placed> placed_;

@@ -30,6 +30,9 @@ class Control {
     /// What a screen reader says where there is no caption, or one that does not speak for itself.
     std::string accessibleName;
 
+    /// What there is to know about the control's present state; empty when that speaks for itself.
+    Property<std::string> hint;
+
     /// Repaints the control: at once, without going back to the event loop, when `immediately`.
     /// Costs next to nothing where no pixel would change.
     void Refresh(bool immediately) const {

@@ -1,11 +1,16 @@
+#include "shell/about_win.h"
 #include "tests/qt/desk.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QLabel>
+#include <QProxyStyle>
+#include <QSignalBlocker>
 #include <QSignalSpy>
+#include <QStyleFactory>
+#include <QStyleOption>
 
-#include <sstream>
+#include <cmath>
 
 namespace norvane {
 namespace {
@@ -32,6 +37,14 @@ class MainWindow : public Desk {
             const bool named = !captionOf(widget).empty() && captionOf(widget) != "?";
             EXPECT_TRUE(named || !widget->accessibleName().isEmpty() || !widget->isVisible() ||
                         control->Name == "Separator1");
+        }
+    }
+
+    void expectLabelsFit() {
+        for (const QLabel *label : peer()->findChildren<QLabel *>()) {
+            const QSize text = label->fontMetrics().size(0, label->text());
+            EXPECT_LE(text.width(), label->width()) << captionOf(label);
+            EXPECT_LE(text.height(), label->height()) << captionOf(label);
         }
     }
 
@@ -76,14 +89,40 @@ TEST_F(MainWindow, ControlsStandInTheirPlacesAndCaptionsFit) {
         EXPECT_EQ(captionOf(at(browse)), "Browse...");
     EXPECT_EQ(peer()->minimumSize(), peer()->maximumSize());
     EXPECT_EQ(peer()->windowTitle(), "Norvane");
-    for (const QLabel *label : peer()->findChildren<QLabel *>()) {
-        const QSize text = label->fontMetrics().size(0, label->text());
-        EXPECT_LE(text.width(), label->width()) << captionOf(label);
-        EXPECT_LE(text.height(), label->height()) << captionOf(label);
-    }
+    expectLabelsFit();
     EXPECT_EQ(at("StaticText1")->palette().color(QPalette::WindowText), QColor(128, 128, 128));
     EXPECT_EQ(at("Label6")->font().pixelSize(), 10);
     EXPECT_EQ(at("LineBox")->font().pixelSize(), 13);
+}
+
+struct LargeFont {
+    LargeFont() {
+        QFont large = before;
+        large.setPixelSize(21);
+        QApplication::setFont(large);
+    }
+    ~LargeFont() { QApplication::setFont(before); }
+    const QFont before = QApplication::font();
+};
+class LargeMainWindow : private LargeFont, public MainWindow {};
+
+TEST_F(LargeMainWindow, GrowsWithTheDesktopsFont) {
+    EXPECT_EQ(at("Canvas1")->parentWidget()->size(), QSize(952, 457));
+    EXPECT_EQ(at("BevelButton1")->geometry(), QRect(713, 166, 207, 36));
+    EXPECT_EQ(at("LineBox")->font().pixelSize(), 21);
+    EXPECT_EQ(at("Label6")->font().pixelSize(), 16);
+    EXPECT_EQ(at("LineBox")->style()->pixelMetric(QStyle::PM_IndicatorWidth),
+              qRound(1.625 * QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth)));
+    click("PopupArrow1");
+    expectLabelsFit();
+    aboutWin::the().Show();
+    QWidget *about = desktop.peerOf(aboutWin::the());
+    EXPECT_EQ(aboutWin::the().Width, 561);
+    about->resize(706, 400);
+    EXPECT_EQ(about->width(), 706);
+    EXPECT_EQ(aboutWin::the().Width, 434);
+    for (const auto &[font, eighths] : {std::pair(9, 8), {13, 8}, {14, 9}, {16, 10}, {27, 17}})
+        EXPECT_EQ(Scale(font).pixels(8), eighths);
 }
 
 TEST_F(MainWindow, TabPassesOverWhatIsOutOfSight) {
@@ -210,6 +249,76 @@ TEST_F(MainWindow, NoWindowManagerMakesItLarger) {
     EXPECT_EQ(peer()->size(), size);
 }
 
+/// How many rows of pixels of a widget its text takes.
+int rowsOfText(QWidget *widget) {
+    const auto picture = [widget](const QString &text) {
+        const QSignalBlocker untold(widget);
+        widget->setProperty("text", text);
+        return widget->grab().toImage();
+    };
+    const QVariant before = widget->property("text");
+    const QImage full = picture(QStringLiteral("|gjpqy"));
+    const QImage empty = picture(QStringLiteral(" "));
+    widget->setProperty("text", before);
+    int rows = 0;
+    for (int y = 0; y < full.height(); ++y)
+        rows += full.copy(0, y, full.width(), 1) == empty.copy(0, y, full.width(), 1) ? 0 : 1;
+    return rows;
+}
+
+TEST_F(MainWindow, NoStyleCutsTextsOff) {
+    click("PopupArrow1");
+    for (const QString &key : QStyleFactory::keys()) {
+        ControlStyle style(QStyleFactory::create(key), desktop.scale);
+        for (const char *name : {"PushButton1", "BevelButton7", "LineBox", "RadioButton2", "Label2",
+                                 "TextField1", "timerText", "BevelButton8"}) {
+            auto *widget = at(name);
+            widget->setStyle(&style);
+            const int rows = rowsOfText(widget);
+            EXPECT_GT(rows, 8);
+            widget->resize(widget->size() + QSize(0, 20));
+            EXPECT_GE(rows, rowsOfText(widget)) << key.toStdString() << ' ' << name;
+            widget->setStyle(nullptr);
+        }
+    }
+}
+
+/// A style that finds a field too low for a border.
+struct Borderless : QProxyStyle {
+    QRect subElementRect(SubElement /*element*/, const QStyleOption *option,
+                         const QWidget * /*widget*/) const override {
+        return option->rect;
+    }
+};
+
+double luminance(const QColor &colour) {
+    const auto linear = [](float part) { return std::pow((part + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+TEST_F(MainWindow, OutlinesAreSeenInTheDark) {
+    click("PopupArrow1");
+    const auto expectOutline = [&](const char *name, const QColor &back) {
+        const QImage picture = at(name)->grab().toImage();
+        double best = 1; // contrast at the left edge of the control, in its middle
+        for (int x = 0; x < 4; ++x) {
+            const double lights[] = {luminance(picture.pixelColor(x, picture.height() / 2)) + 0.05,
+                                     luminance(back) + 0.05};
+            best = std::max({best, lights[0] / lights[1], lights[1] / lights[0]});
+        }
+        EXPECT_GE(best, 3) << name;
+    };
+    ControlStyle borderless(new Borderless, desktop.scale);
+    at("TextField1")->setStyle(&borderless);
+    expectOutline("TextField1", peer()->palette().color(QPalette::Window));
+    at("TextField1")->setStyle(nullptr);
+    const QColor dark(42, 46, 50);
+    peer()->setPalette(QPalette(QColor(49, 54, 59), dark));
+    for (const char *name : {"ParagraphBox", "RadioButton2", "timerText", "TextField2"})
+        expectOutline(name, dark);
+}
+
 TEST_F(MainWindow, AControlOfAnUnknownKindIsAnError) {
     struct : Window {
         Control control;
@@ -227,7 +336,14 @@ TEST_F(MainWindow, FieldsAndModelsStayInStep) {
     QTest::keyClicks(field, "0.5");
     EXPECT_EQ(window().timerText.Text.get(), "0.5");
     EXPECT_EQ(window().Timer1.Period, 30000);
-    window().timerText.Text = "2";
+    for (const char *never : {"0,5", "abc", "", "0"}) {
+        window().timerText.Text = never;
+        EXPECT_EQ(field->toolTip(), "The folder will not be checked: this is no number of minutes "
+                                    "above 0, such as 15 or 0.5.");
+        EXPECT_EQ(field->accessibleDescription(), field->toolTip());
+        window().timerText.Text = "2";
+        EXPECT_EQ(field->toolTip() + field->accessibleDescription(), "");
+    }
     EXPECT_EQ(field->text(), "2");
     window().TextField1.Text = "/no utf-8 \xff/";
     EXPECT_EQ(window().TextField1.Text.get(), "/no utf-8 \xff/");

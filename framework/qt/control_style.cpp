@@ -1,0 +1,88 @@
+#include "framework/qt/control_style.h"
+
+#include <QPainter>
+#include <QStyleOptionButton>
+
+namespace norvane {
+
+namespace {
+
+/// A line that is seen on the window, whatever its colour.
+void drawOutline(const QRect &place, const QStyleOption &option, QPainter &painter, bool round) {
+    constexpr double kCorner = 2.5;
+    constexpr float kOpacity = 0.6F;
+    QColor colour = option.palette.color(QPalette::Active, QPalette::WindowText);
+    colour.setAlphaF(kOpacity);
+    const QRectF line = QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(colour);
+    painter.setBrush(Qt::NoBrush);
+    if (round)
+        painter.drawEllipse(line);
+    else
+        painter.drawRoundedRect(line, kCorner, kCorner);
+    painter.restore();
+}
+
+bool isDark(const QStyleOption &option) {
+    constexpr int kMiddle = 128;
+    return option.palette.color(QPalette::Window).lightness() < kMiddle;
+}
+
+} // namespace
+
+void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                 QPainter *painter, const QWidget *widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isMark = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    const bool isField = element == PE_PanelLineEdit && !(option->state & State_HasFocus);
+    // A style that finds a field too low for its border leaves it no room.
+    const bool isBare =
+        isField && QProxyStyle::subElementRect(SE_LineEditContents, option, widget).height() ==
+                       option->rect.height();
+    if ((isMark || isField) && (isDark(*option) || isBare))
+        drawOutline(option->rect & widget->rect(), *option, *painter,
+                    element == PE_IndicatorRadioButton);
+}
+
+void ControlStyle::drawControl(ControlElement element, const QStyleOption *option,
+                               QPainter *painter, const QWidget *widget) const {
+    // A caption is in the middle of its room, and cut off where that ends: more, evenly, is no
+    // harm.
+    constexpr QMargins kRoom(0, 10, 0, 10);
+    if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+        button != nullptr && element == CE_PushButtonLabel) {
+        QStyleOptionButton roomy = *button;
+        roomy.rect += kRoom;
+        QProxyStyle::drawControl(element, &roomy, painter, widget);
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+QRect ControlStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                   const QWidget *widget) const {
+    QRect place = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_LineEditContents) { // all of the height within the border
+        place.setTop(option->rect.top() + 1);
+        place.setBottom(option->rect.bottom() - 1);
+    }
+    return place;
+}
+
+int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                              const QWidget *widget) const {
+    const int size = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return scale_.pixels(size);
+    default:
+        return size;
+    }
+}
+
+} // namespace norvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "framework/qt/scale.h"
+
+#include <QProxyStyle>
+
+namespace norvane {
+
+/// The desktop's style, as controls of a given size need it: texts are whole even where the style
+/// would want more room around them; boxes, radio buttons and fields can be seen on a dark window,
+/// and fields have a border also where the style leaves it out; marks grow with the window.
+class ControlStyle : public QProxyStyle {
+  public:
+    /// Owns `desktopStyle`.
+    ControlStyle(QStyle *desktopStyle, const Scale &scale)
+        : QProxyStyle(desktopStyle), scale_(scale) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override;
+
+  private:
+    Scale scale_;
+};
+
+} // namespace norvane

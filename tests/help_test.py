@@ -1,36 +1,40 @@
 #!/usr/bin/env python3
-"""Holds the help article to its word: each example must be what the program makes of it, and whatever else the
-page gives as output must stand in such an example or in the program's texts. Takes the companion and the
-article."""
+"""Holds the help article and the README to their word: what they give as output must be what the program makes of
+their examples, or one of its texts. Takes the companion and the root of the sources."""
 
 import html
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 import tempfile
 
-companion, article = map(os.path.abspath, sys.argv[1:3])
-page = pathlib.Path(article).read_text(encoding="utf-8")
-sources = pathlib.Path(article).parents[2]
+companion, root = os.path.abspath(sys.argv[1]), pathlib.Path(sys.argv[2]).absolute()
+page = (root / "resources/help/help.html").read_text(encoding="utf-8")
+readme = (root / "README.md").read_text(encoding="utf-8")
 
 
-def run(*arguments):
-    return subprocess.run([companion, *arguments], capture_output=True, encoding="utf-8")
+def run(command):
+    """What the command prints; the name of the companion stands for its path."""
+    name, *arguments = shlex.split(command)
+    assert name == "norvane-transcript", command
+    return subprocess.run([companion, *arguments], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          encoding="utf-8").stdout.rstrip("\n")
 
 
-def entries(*arguments):
-    return run(*arguments, "show.scc").stdout.removeprefix("Transcripts of show\n\n").rstrip("\n")
+def entries(options):
+    return run(f"norvane-transcript {options} show.scc").removeprefix("Transcripts of show\n\n").rstrip("\n")
 
 
-# What an example calls an output, and how it is made of the file above it.
+# What an example calls an output, and how it is made of the file, or the command, above it.
 outputs = {
-    "Transcript": lambda: entries("--form", "line"),
-    "Start times": entries,
-    "Keep SCC timecode": lambda: entries("--clock", "scc"),
-    "Whole transcript": lambda: run("show.scc").stdout.rstrip("\n"),
-    "Message": lambda: run("show.scc").stderr.rstrip("\n"),
+    "Transcript": lambda _: entries("--form line"),
+    "Start times": lambda _: entries(""),
+    "Keep SCC timecode": lambda _: entries("--clock scc"),
+    "Whole transcript": lambda _: run("norvane-transcript show.scc"),
+    "It prints": run,
 }
 
 
@@ -41,24 +45,36 @@ def check(example):
     told = []
     for label, kind, text in ((label, kind, html.unescape(text)) for label, kind, text in rows):
         if kind == "samp":
-            made = outputs[label]()
+            made = outputs[label](command)
             assert made == text, f"{label} of {example}\n{made!r} and not {text!r}"
             told.append(text)
-            continue
-        header = "" if label == "The whole file" else "Scenarist_SCC V1.0\n\n"
-        lines = text if "\t" in text or not header else f"00:00:10:00\t{text}"
-        pathlib.Path("show.scc").write_text(f"{header}{lines}\n", encoding="utf-8")
+        elif label == "In a terminal":
+            command = text
+        else:
+            header = "" if label == "The whole file" else "Scenarist_SCC V1.0\n\n"
+            lines = text if "\t" in text or not header else f"00:00:10:00\t{text}"
+            pathlib.Path("show.scc").write_text(f"{header}{lines}\n", encoding="utf-8")
+            command = None
     assert told, f"nothing is shown: {example}"
     return told
 
 
 with tempfile.TemporaryDirectory() as folder:
     os.chdir(folder)
-    examples = r'<dl class="example">(.*?)</dl>'
+    examples = r'<dl class="example(?: wide)?">(.*?)</dl>'
     told = [text for example in re.findall(examples, page, re.S) for text in check(example)]
-    os.chdir("/")
-literals = [re.sub(r'"\s*"', "", file.read_text(encoding="utf-8")) for folder in ("shell", "folders", "decode",
-            "framework") for file in (sources / folder).rglob("*.cpp")]
+    os.chdir(root / "resources/samples")
+
+literals = [re.sub(r'"\s*"', "", file.read_text(encoding="utf-8"))
+            for folder in ("shell", "folders", "decode", "framework") for file in (root / folder).rglob("*.cpp")]
 for kind, text in re.findall(r"<samp(.*?)>(.*?)</samp>", re.sub(examples, "", page, flags=re.S)):
     known = literals if kind == ' class="message"' else told
     assert any(html.unescape(text) in each for each in known), f"no example shows it, or no code says it: {text}"
+
+for form in ("timecode", "line", "paragraph"):
+    assert f"```\n{run(f'norvane-transcript --form {form} night-train.scc')}\n" in readme, form
+commands = re.findall(r"```\n\$ (.*?)\n(.*?)```", readme, re.S)
+assert commands
+for command, shown in commands:  # but for what is left out
+    pattern = ".*\n".join(map(re.escape, shown.split("...\n")))
+    assert re.fullmatch(pattern, run(command) + "\n", re.S), f"{command}\n{run(command)}"

@@ -84,12 +84,6 @@ touch a.scc B.SCC c.txt
 [ "$(completed_by_bash --without parity,ov)" = parity,overlap ] || fail 'bash on --without'
 completed_by_fish '--without parity,ov' | grep -x parity,overlap >/dev/null || fail 'fish on --without'
 
-# What the README shows is what the program prints.
-for form in timecode line paragraph; do
-    [[ $(<"$root/README.md") == *"$("$transcript" --form $form "$root/resources/samples/night-train.scc")"* ]] ||
-        fail "the README's $form form"
-done
-
 for page in "$usr"/share/man/man1/*; do
     complaints=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null)
     [ -z "$complaints" ] || fail "$page: $complaints"

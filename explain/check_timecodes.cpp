@@ -16,7 +16,7 @@ void TimecodeCheck::look(const SccLine &line, Findings &findings) {
     if (!line.timecode) {
         findings.add(line.number, FindingKind::timecodeForm,
                      startInQuotes(line.data.timecode) +
-                         " is not of the form HH:MM:SS:FF, or HH:MM:SS;FF with drop-frame: "
+                         " is not of the form HH:MM:SS:FF (drop-frame: HH:MM:SS;FF): "
                          "correct it.");
         return;
     }

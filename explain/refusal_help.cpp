@@ -53,7 +53,7 @@ std::string refusalHelp(std::string_view text, std::string_view line) {
         line[kTimecodeSize] == ' ')
         return "A blank stands where the tab should be: put a tab behind the timecode, here and "
                "in all other lines.";
-    return "Behind the header, each line must be a timecode, a tab and words of four hex digits: "
+    return "Behind the header, each line must be timecode, tab and words of four hex digits: "
            "correct it.";
 }
 

@@ -33,8 +33,16 @@ std::string targetOf(const Handle &link) {
 } // namespace
 
 int findPlace(std::string path, LastLink lastLink, Place &place) {
-    place.folder = Handle();
-    place.name = "/";
+    const std::size_t slash = path.rfind('/');
+    place.folder = Handle(
+        systemCalls.openWithoutLinks(path.substr(0, std::max<std::size_t>(slash, 1)).c_str()));
+    if (place.folder.isOpen() && slash + 1 < path.size()) { // nearly always: most ways have no link
+        place.name = path.substr(slash + 1);
+        path.clear();
+    } else {
+        place.folder = Handle();
+        place.name = "/";
+    }
     int links = 0;
     for (;;) { // `path` is what lies behind the name
         const std::size_t next = path.find_first_not_of('/');

@@ -9,6 +9,10 @@
 #include <sys/stat.h>
 #include <type_traits>
 #include <unistd.h>
+#ifdef __linux__
+#include <linux/openat2.h>
+#include <sys/syscall.h>
+#endif
 
 namespace norvane::disk {
 
@@ -44,6 +48,19 @@ struct SystemCalls {
         [](int folder, const char *name, int flags, mode_t mode) {
             return ::openat(folder, name, flags | O_CLOEXEC | O_NOCTTY, mode);
         }};
+    /// Opens a folder as a place for others of these calls, but only when no link is on the way;
+    /// older systems cannot do that.
+    Call<int(const char *)> openWithoutLinks{[](const char *path) {
+#ifdef SYS_openat2
+        open_how how{};
+        how.flags = O_PATH | O_DIRECTORY | O_CLOEXEC;
+        how.resolve = RESOLVE_NO_SYMLINKS;
+        return static_cast<int>(syscall(SYS_openat2, AT_FDCWD, path, &how, sizeof how));
+#else
+        static_cast<void>(path);
+        return errno = ENOSYS, -1;
+#endif
+    }};
     Call<int(int, struct stat *)> fstat{::fstat};
     Call<ssize_t(int, char *, std::size_t)> readOpenLink{
         [](int link, char *target, std::size_t room) {

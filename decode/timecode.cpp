@@ -1,6 +1,5 @@
 #include "decode/timecode.h"
 
-#include "framework/text/numbers.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -33,44 +32,72 @@ std::array<double, count> fieldsOf(std::string_view timecode) {
     return fields;
 }
 
-/// The fields of a timecode of the ordinary form, eight digits in pairs, without reading them as
-/// texts.
-std::optional<std::array<double, 4>> ordinaryFields(std::string_view timecode) {
-    constexpr std::string_view kForm = "00:00:00:00";
-    if (timecode.size() != kForm.size())
-        return {};
-    std::array<double, 4> fields{};
-    for (std::size_t field = 0; field < fields.size(); ++field) {
-        const char *const place = timecode.data() + 3 * field;
-        const auto tens = static_cast<unsigned>(place[0] - '0');
-        const auto ones = static_cast<unsigned>(place[1] - '0');
-        if (tens > 9 || ones > 9 || (field < 3 && place[2] != ':'))
-            return {};
-        fields[field] = tens * 10 + ones;
-    }
-    return fields;
-}
-
 double sccSeconds(std::string_view timecode) {
-    const auto ordinary = ordinaryFields(timecode);
-    const auto [hours, minutes, seconds, frames] = ordinary ? *ordinary : fieldsOf<4>(timecode);
+    const auto [hours, minutes, seconds, frames] = fieldsOf<4>(timecode);
     return hours * 3600 + minutes * 60 + seconds + frames / kFramesPerSecond;
 }
 
-/// The whole minutes of a count that goes through the text of Str: what stands there before the
-/// point. In a text with an exponent, that is the first digit.
-double wholeMinutes(double minutes) {
-    constexpr double kFirstWithExponent = 1e7;
-    const double rounded = sevenDigits(minutes);
-    if (rounded < kFirstWithExponent)
-        return Floor(rounded);
-    const std::string text = Str(minutes);
-    return Val(text.substr(0, text.find('.')));
+/// What goes through the text of Str and is read again.
+double sevenDigits(double value) {
+    return Val(Str(value));
 }
 
-void putPair(std::string &text, std::size_t place, unsigned number) {
-    text[place] = static_cast<char>('0' + number / 10);
-    text[place + 1] = static_cast<char>('0' + number % 10);
+/// The frames of "HH:MM:SS:FF", each ":" or ";", within a day; nothing for another text.
+std::optional<std::uint32_t> ordinaryFrames(std::string_view timecode) {
+    constexpr std::size_t kFields = 4;
+    constexpr std::array<std::uint32_t, kFields> kPerField = {0, 60, 60, 30};
+    constexpr std::uint32_t kDay = 24 * 60 * 60 * 30;
+    if (timecode.size() != 3 * kFields - 1)
+        return {};
+    std::uint32_t frames = 0;
+    for (std::size_t field = 0; field < kFields; ++field) {
+        const std::size_t place = 3 * field;
+        const auto tens = static_cast<unsigned>(timecode[place] - '0');
+        const auto ones = static_cast<unsigned>(timecode[place + 1] - '0');
+        if (tens > 9 || ones > 9 ||
+            (field > 0 && timecode[place - 1] != ':' && timecode[place - 1] != ';'))
+            return {};
+        frames = frames * kPerField[field] + tens * 10 + ones;
+    }
+    return frames < kDay ? std::optional(frames) : std::nullopt;
+}
+
+/// The start of an ordinary line in whole numbers: frames and characters are multiples of 1/150 s,
+/// and half of that is the unit. Seven digits of seconds are off by too little to count, but from
+/// 10,000 s on, where they are whole hundredths. Seven digits of minutes take what is less than
+/// 10 units before a minute to the next one at times, and what is that minute to this one: nothing
+/// then, as for other lines.
+std::optional<std::string> ordinaryStart(std::string_view timecode, std::size_t characters) {
+    constexpr std::size_t kMostCharacters = 10'000;
+    constexpr std::uint32_t kUnitsPerFrame = 10;
+    constexpr std::uint32_t kUnitsPerCharacter = 2;
+    constexpr std::uint32_t kUnitsPerHundredth = 3;
+    constexpr std::uint32_t kUnitsPerMinute = 60 * 100 * kUnitsPerHundredth;
+    constexpr std::uint32_t kFirstInHundredths = 10'000 * 30;
+    constexpr std::uint32_t kNearMinute = 10;
+    const auto frames = ordinaryFrames(timecode);
+    if (!frames || characters > kMostCharacters)
+        return {};
+    const auto hundredths = [](std::uint32_t units) { // rounded; thirds are never halves
+        return (units + 1) / kUnitsPerHundredth;
+    };
+    std::uint32_t units = *frames * kUnitsPerFrame;
+    if (*frames >= kFirstInHundredths)
+        units = hundredths(units) * kUnitsPerHundredth;
+    units += static_cast<std::uint32_t>(characters) * kUnitsPerCharacter;
+    const std::uint32_t rest = units % kUnitsPerMinute;
+    if (rest == 0 || rest > kUnitsPerMinute - kNearMinute)
+        return {};
+    std::string text = "00:00:00.00";
+    const auto putPair = [&text](std::size_t place, std::uint32_t number) {
+        text[place] = static_cast<char>('0' + number / 10);
+        text[place + 1] = static_cast<char>('0' + number % 10);
+    };
+    putPair(0, units / kUnitsPerMinute / 60);
+    putPair(3, units / kUnitsPerMinute % 60);
+    putPair(6, hundredths(rest) / 100);
+    putPair(9, hundredths(rest) % 100);
+    return text;
 }
 
 } // namespace
@@ -85,35 +112,29 @@ std::string timeCodeToSeconds(std::string_view timecode) {
 }
 
 // Numbers go from step to step as texts of seven significant digits, and what that loses belongs to
-// the result: a quotient that rounds up to a whole minute is that minute. sevenDigits is such a
-// passage.
+// the result: a quotient that rounds up to a whole minute is that minute.
 std::string returnTimecode(double seconds) {
-    const double allMinutes = seconds >= 60 ? wholeMinutes(seconds / 60) : 0;
-    const double hours = Floor(allMinutes / 60);
-    double minutes = allMinutes - hours * 60;
-    if (minutes < 0 || minutes >= 60) // only of counts beyond a double's whole numbers
-        minutes = sevenDigits(minutes);
-    double rest = sevenDigits(seconds - allMinutes * 60);
-    if (rest < 0)
-        rest = 0; // as a text, it is below 10 and gets a "0" in front of its sign
-    // The decimal mark is a point everywhere, so there is no comma to replace.
-    const auto hundredths = roundedProduct(rest, 2);
-    if (hours < 100 && minutes < 60 && hundredths && *hundredths < 10000) {
-        std::string text = "00:00:00.00";
-        putPair(text, 0, static_cast<unsigned>(hours));
-        putPair(text, 3, static_cast<unsigned>(minutes));
-        putPair(text, 6, *hundredths / 100);
-        putPair(text, 9, *hundredths % 100);
-        return text;
+    double allMinutes = 0;
+    if (seconds >= 60) {
+        const std::string text = Str(seconds / 60);
+        allMinutes = Val(text.substr(0, text.find('.'))); // kept: of an exponent form, the digit
     }
+    const double hours = Floor(allMinutes / 60);
+    const double minutes = sevenDigits(allMinutes - hours * 60);
+    // Below zero, the text of the rest is below 10 and gets a "0" in front of its sign. The decimal
+    // mark is a point everywhere, so there is no comma to replace.
+    const double rest = std::max(0.0, sevenDigits(seconds - allMinutes * 60));
     return Format(hours, "00") + ":" + Format(minutes, "00") + ":" + Format(rest, "00.00");
 }
 
 std::string unbufferedTimecode(std::string_view timecode, std::string_view hexText) {
+    const std::size_t characters = Len(hexText);
+    if (auto start = ordinaryStart(timecode, characters))
+        return *std::move(start);
     std::string colons(timecode);
     std::replace(colons.begin(), colons.end(), ';', ':');
     const double bufferTime =
-        static_cast<double>(Len(hexText)) / kCharactersPerWord / kFramesPerSecond;
+        static_cast<double>(characters) / kCharactersPerWord / kFramesPerSecond;
     return returnTimecode(sevenDigits(sccSeconds(colons)) + bufferTime);
 }
 

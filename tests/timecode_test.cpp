@@ -1,8 +1,9 @@
 #include "decode/timecode.h"
-#include "framework/text/failures.h"
+#include "framework/text/text.h"
 #include "tests/support/plain_walk.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -53,6 +54,31 @@ TEST(Timecode, IsThatOfTheStepsOnTexts) {
         for (const double seconds :
              {frames + static_cast<double>(random() % 400) / 150, exact, any, -any})
             ASSERT_EQ(returnTimecode(seconds), plain::returnTimecode(seconds)) << seconds;
+    }
+}
+
+// The steps on texts for each frame of a day, with as many hex texts of up to 300 words as
+// NORVANE_LENGTHS says (all: 300); those just below, at and just above a minute among them.
+TEST(Timecode, UnbufferedIsThatOfTheStepsOnTexts) {
+    const char *more = std::getenv("NORVANE_LENGTHS");
+    const std::size_t lengths = more == nullptr ? 1 : std::stoul(more);
+    const std::string hexText(1500, '0');
+    std::minstd_rand random(6);
+    for (unsigned frame = 0; frame < 24 * 60 * 60 * 30; frame += more == nullptr ? 7 : 1) {
+        char timecode[16];
+        std::snprintf(timecode, sizeof timecode, "%02u:%02u:%02u%c%02u", frame / 108000,
+                      frame / 1800 % 60, frame / 30 % 60, frame % 2 == 0 ? ':' : ';', frame % 30);
+        timecode[8] = ':';
+        const double seconds = Val(timecodeToSecondsSCC(timecode));
+        timecode[8] = frame % 2 == 0 ? ':' : ';';
+        const auto first = static_cast<unsigned>(random() % 300);
+        for (unsigned length = 0; length < lengths; ++length) {
+            const unsigned words = (first + length) % 300 + 1;
+            const auto characters = static_cast<unsigned>(5 * words - 1 + random() % 2);
+            ASSERT_EQ(unbufferedTimecode(timecode, {hexText.data(), characters}),
+                      returnTimecode(seconds + characters / 5.0 / 30.0))
+                << timecode << " " << characters;
+        }
     }
 }
 

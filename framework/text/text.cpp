@@ -1,7 +1,5 @@
 #include "framework/text/text.h"
 
-#include "framework/text/numbers.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -38,19 +36,6 @@ std::string replaceEvery(std::string_view text, std::string_view find, std::stri
 }
 
 } // namespace
-
-std::string Str(double value) {
-    std::string text;
-    appendSevenDigits(text, value);
-    return text;
-}
-
-std::string Format(double value, std::string_view mask) {
-    const std::size_t point = std::min(mask.find('.'), mask.size());
-    std::string text;
-    appendFixed(text, value, point, mask.size() - std::min(point + 1, mask.size()));
-    return text;
-}
 
 TextArray Split(std::string_view text, std::string_view delimiter) {
     TextArray pieces;

@@ -1,8 +1,10 @@
 #include "command/transcribe.h"
 
+#include "decode/caption.h"
 #include "explain/refusal_help.h"
 #include "framework/files/disk.h"
 #include "framework/text/text.h"
+#include "transcript/clean_up.h"
 
 #include <csignal>
 #include <unistd.h>
@@ -31,25 +33,29 @@ class SignalsWait {
 };
 
 std::string bodyOf(std::string_view text, const Options &options) {
-    TextArray timecodes;
-    TextArray captions;
-    const std::vector<std::string_view> lines = keptLines(text);
-    // Room ahead costs nothing where it is not used.
-    captions.reserve(lines.size(), text.size() / 2);
-    timecodes.reserve(lines.size(), text.size() / 8);
-    for (std::size_t i = 1; i < lines.size(); ++i) {
-        const auto line = takeApart(lines[i]);
+    TranscriptBody body(options.form, text.size()); // room costs nothing where it is not used
+    std::string timecode;
+    std::string caption;
+    LineReader lines(text);
+    lines.nextNotEmpty(); // the header
+    for (auto kept = lines.nextNotEmpty(); !kept.empty(); kept = lines.nextNotEmpty()) {
+        const auto line = takeApart(kept);
         if (const Refusal *refusal = std::get_if<Refusal>(&line))
-            throw Problem{std::string(messageOf(*refusal)), refusalHelp(text, lines[i]),
-                          lineNumber(text, lines[i])};
+            throw Problem{std::string(messageOf(*refusal)), refusalHelp(text, kept),
+                          lineNumber(text, kept)};
         try {
-            appendEntry(std::get<DataLine>(line), options.clock, timecodes, captions);
+            timecode = startTime(std::get<DataLine>(line), options.clock);
+            caption.clear();
+            appendCaption(caption, std::get<DataLine>(line).hexText);
         } catch (const OutOfBoundsException &failure) {
             throw Problem{failure.what(), entryHelp(std::get<DataLine>(line), options.clock),
-                          lineNumber(text, lines[i])};
+                          lineNumber(text, kept)};
         }
+        cleanEntry(caption);
+        correctComma(timecode);
+        body.add(timecode, caption);
     }
-    return composeTranscript(options.form, captions, timecodes);
+    return body.take();
 }
 
 void writeTo(const std::string &path, const std::string &heading, const std::string &body,

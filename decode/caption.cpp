@@ -12,24 +12,23 @@ namespace {
 
 constexpr std::string_view kTwoBlanks = "2020"; // as caption bytes
 
-/// Appends the letter of two characters, or the two as they are.
-void appendPair(std::string &letters, std::string_view pair) {
-    std::string_view letter;
-    if (pair.size() == 2 && hexDigitValue(pair[0]) >= 0 && hexDigitValue(pair[1]) >= 0)
-        letter = letterOf(
-            static_cast<unsigned char>(hexDigitValue(pair[0]) * 16 + hexDigitValue(pair[1])));
-    letters += letter.empty() ? pair : letter;
-}
-
-/// Each pair of characters to its letter. An odd character at the end is dropped.
+/// Each pair of characters to its letter, or as it is. An odd character at the end is dropped.
 std::string letters(std::string_view text) {
     std::string result;
-    while (!text.empty()) {
-        std::size_t pair = characterSize(text);
-        if (pair == text.size())
-            break;
-        pair += characterSize(text.substr(pair));
-        appendPair(result, text.substr(0, pair));
+    result.reserve(text.size());
+    while (text.size() >= 2) {
+        const int byte = hexDigitValue(text[0]) * 16 | hexDigitValue(text[1]);
+        std::string_view letter =
+            byte >= 0 ? letterOf(static_cast<unsigned char>(byte)) : std::string_view();
+        std::size_t pair = 2;
+        if (letter.empty()) {
+            pair = characterSize(text);
+            if (pair == text.size())
+                break;
+            pair += characterSize(text.substr(pair));
+            letter = text.substr(0, pair);
+        }
+        result += letter;
         text.remove_prefix(pair);
     }
     return result;

@@ -14,9 +14,9 @@ struct CrossingKeys {
     static constexpr State kMatch = 63;  // a key was completed; no digit leads out of this state
     static constexpr std::size_t kStates = 64;
 
-    /// The state behind one more digit, and behind two that make a byte.
-    std::array<std::array<State, 16>, kStates> digit{};
+    /// The state behind two more digits, which make a byte, and behind one.
     std::array<std::array<State, 256>, kStates> byte{};
+    std::array<std::array<State, 16>, kStates> digit{};
 };
 
 /// Derived from the rows of the chain behind the deletion of the blanks.

@@ -2,37 +2,38 @@
 
 #include "decode/caption.h"
 #include "decode/timecode.h"
-#include "framework/text/line_reader.h"
-#include "framework/text/regex.h"
+#include "framework/text/text.h"
 
 namespace norvane {
+
+namespace {
+
+/// Whether two digits and a colon stand somewhere in a line.
+bool holdsTimecode(std::string_view line) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    for (std::size_t at = 0; at + 2 < line.size(); ++at) {
+        if (isDigit(line[at]) && isDigit(line[at + 1]) && line[at + 2] == ':')
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 constexpr std::string_view kNotSccMessage = "This file does not have the .scc extension.";
 
 bool isSccName(std::string_view name) {
-    static const RegEx patternRegEx(".scc");
-    return patternRegEx.Search(name).has_value();
+    return findIgnoringCase(name, "scc", 1) != std::string_view::npos;
 }
 
 std::vector<std::string_view> keptLines(std::string_view text) {
     constexpr std::size_t kShortLine = 80; // bytes; room for more lines than nearly all files have
     std::vector<std::string_view> lineArray;
     lineArray.reserve(text.size() / kShortLine);
-    for (LineReader lines(text); !lines.atEnd();) {
-        const std::string_view line = lines.next();
-        if (!line.empty())
-            lineArray.push_back(line);
-    }
-    return lineArray;
-}
-
-std::size_t lineNumber(std::string_view text, std::string_view line) {
-    std::size_t number = 0;
     LineReader lines(text);
-    do {
-        ++number;
-    } while (lines.next().data() < line.data() && !lines.atEnd());
-    return number;
+    for (auto line = lines.nextNotEmpty(); !line.empty(); line = lines.nextNotEmpty())
+        lineArray.push_back(line);
+    return lineArray;
 }
 
 std::string_view messageOf(Refusal refusal) {
@@ -43,8 +44,7 @@ std::string_view messageOf(Refusal refusal) {
 }
 
 std::variant<DataLine, Refusal> takeApart(std::string_view line) {
-    static const RegEx patternRegEx("\\d\\d\\:");
-    if (!patternRegEx.Search(line))
+    if (!holdsTimecode(line))
         return Refusal::noTimecode;
     const std::size_t tab = line.find('\t');
     if (tab == std::string_view::npos)
@@ -53,11 +53,13 @@ std::variant<DataLine, Refusal> takeApart(std::string_view line) {
     return DataLine{line.substr(0, tab), behind.substr(0, behind.find('\t'))};
 }
 
+std::string startTime(const DataLine &line, Clock clock) {
+    return clock == Clock::unbuffered ? unbufferedTimecode(line.timecode, line.hexText)
+                                      : std::string(line.timecode);
+}
+
 void appendEntry(const DataLine &line, Clock clock, TextArray &timecodes, TextArray &captions) {
-    if (clock == Clock::unbuffered)
-        timecodes.Append(unbufferedTimecode(line.timecode, line.hexText));
-    else
-        timecodes.Append(line.timecode);
+    timecodes.Append(startTime(line, clock));
     captions.appendWith([&](std::string &texts) { appendCaption(texts, line.hexText); });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/text/line_reader.h"
 #include "framework/text/text_array.h"
 
 #include <string_view>
@@ -19,9 +20,6 @@ extern const std::string_view kNotSccMessage;
 
 /// The lines of a file that count, the header first: views of `text`.
 std::vector<std::string_view> keptLines(std::string_view text);
-
-/// Which line of the file `line`, a view of `text`, is: from 1, empty ones counted.
-std::size_t lineNumber(std::string_view text, std::string_view line);
 
 /// A data line: its timecode, "HH:MM:SS:FF" or with ";" before the frames where the frame numbers
 /// drop (SMPTE ST 12), and its hex text, words of four hex digits parted by blanks (CEA-608 byte
@@ -45,9 +43,12 @@ std::variant<DataLine, Refusal> takeApart(std::string_view line);
 /// the file has them.
 enum class Clock { unbuffered, scc };
 
-/// Appends the start time of a data line and then its caption, each to its array. Throws
-/// OutOfBoundsException when the unbuffered clock finds fewer than four fields in the timecode, or
-/// when the codes leave a single character; kept: in that case the timecode is there already.
+/// The start time of a data line. Throws OutOfBoundsException when the unbuffered clock finds fewer
+/// than four fields in the timecode.
+std::string startTime(const DataLine &line, Clock clock);
+
+/// Appends the start time of a data line and then its caption, each to its array. Throws as
+/// startTime and appendCaption do; kept: in the second case the start time is there already.
 void appendEntry(const DataLine &line, Clock clock, TextArray &timecodes, TextArray &captions);
 
 } // namespace norvane

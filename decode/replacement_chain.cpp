@@ -5,27 +5,19 @@
 #include "framework/text/text.h"
 
 #include <algorithm>
-#include <bitset>
 #include <optional>
 
 namespace norvane {
 
 namespace {
 
-// Rows as indices of kReplacementChain.
-constexpr std::size_t kFirst = kFirstWalkedRow - 1;
-constexpr std::size_t kBlanks = kBlanksRow - 1;
-constexpr std::size_t kFiller = kFillerRow - 1;
-
-using Rows = std::bitset<kChainRows>;
-
-bool isHexDigit(char c) {
-    return hexDigitValue(c) >= 0;
-}
-
-/// The rows whose keys occur in `text`.
-Rows rowsThatOccur(std::string_view text) {
-    Rows rows;
+/// The first row behind `row` whose key is in `text`; one beyond the last when there is none.
+std::size_t nextRow(std::string_view text, std::size_t row) {
+    std::size_t next = kLastWalkedRow + 1;
+    const auto consider = [row, &next](std::size_t other) {
+        if (other > row)
+            next = std::min(next, other);
+    };
     std::size_t code = 0;   // of the hex digits last read
     std::size_t digits = 0; // how many of them stand in a row
     bool bars = false;
@@ -33,25 +25,24 @@ Rows rowsThatOccur(std::string_view text) {
         const int value = hexDigitValue(c);
         if (value >= 0) {
             code = (code * 16 + static_cast<std::size_t>(value)) & 0xFFFFU;
-            if (++digits >= 4) {
-                for (std::size_t row = kRowsOfCode.first[code]; row != 0;
-                     row = kRowsOfCode.next[row])
-                    rows.set(row - 1);
-            }
+            ++digits;
+            std::size_t found = digits >= 4 ? kRowsOfCode.first[code] : 0;
+            for (; found != 0; found = kRowsOfCode.next[found])
+                consider(found);
             if (digits >= 2 && (code & 0xFFU) == 0x80)
-                rows.set(kFiller);
+                consider(kFillerRow);
             continue;
         }
         digits = 0;
-        bars |= c == '|';
         if (c == ' ')
-            rows.set(kBlanks);
+            consider(kBlanksRow);
+        bars |= c == '|';
     }
-    for (std::size_t row = kFirst; bars && row < kLastWalkedRow; ++row) {
-        if (kReplacementChain[row].key[0] == '|')
-            rows.set(row);
+    for (std::size_t other = row + 1; bars && other < next; ++other) {
+        if (kReplacementChain[other - 1].key[0] == '|')
+            next = other;
     }
-    return rows;
+    return next;
 }
 
 /// Rows 2 to 480 in one go, where the text is words parted by blanks, since a key of these rows can
@@ -64,8 +55,8 @@ std::optional<std::string> replaceWholeWords(std::string_view text) {
             text.remove_prefix(1);
             continue;
         }
-        const std::string_view word = text.substr(0, text.find(' '));
-        if (word.size() != 4 || !std::all_of(word.begin(), word.end(), isHexDigit))
+        const std::string_view word = text.substr(0, std::min<std::size_t>(text.find(' '), 5));
+        if (!isCodeWord(word))
             return {};
         text.remove_prefix(word.size());
         const std::size_t row = kRowsOfCode.first[codeOf(word)];
@@ -81,29 +72,16 @@ std::optional<std::string> replaceWholeWords(std::string_view text) {
     return result;
 }
 
-/// Whether a row of this index can bring about keys of later rows: where a deletion joined what it
-/// parted, or in a bar, or in a blank as long as blanks are a key.
-bool bringsAboutKeys(std::size_t row) {
-    const std::string_view with = kReplacementChain[row].with;
-    return with.empty() || with.find('|') != std::string_view::npos ||
-           (row < kBlanks && with.find(' ') != std::string_view::npos);
-}
-
 } // namespace
 
 // A row whose key does not occur does nothing, so the rows whose keys occur are all there is to
-// run.
+// run. A row may bring about keys of rows behind it, by what it joins or puts in.
 std::string replaceCodeWords(std::string_view hexText) {
     auto words = replaceWholeWords(hexText);
+    std::size_t row = words ? kBlanksRow : kFirstWalkedRow - 1;
     std::string text = words ? std::move(*words) : std::string(hexText);
-    Rows rows = rowsThatOccur(text);
-    for (std::size_t row = words ? kBlanks + 1 : kFirst; row < kLastWalkedRow; ++row) {
-        if (!rows.test(row))
-            continue;
-        text = ReplaceAll(text, kReplacementChain[row].key, kReplacementChain[row].with);
-        if (bringsAboutKeys(row))
-            rows = rowsThatOccur(text);
-    }
+    while ((row = nextRow(text, row)) <= kLastWalkedRow)
+        text = ReplaceAll(text, kReplacementChain[row - 1].key, kReplacementChain[row - 1].with);
     return text;
 }
 

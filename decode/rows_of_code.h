@@ -3,15 +3,20 @@
 #include "decode/chain_table.h"
 #include "framework/text/text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
 
 namespace norvane {
 
-/// Whether a key is a code word: four hex digits.
+constexpr bool isHexDigit(char c) {
+    return hexDigitValue(c) >= 0;
+}
+
+/// Whether a text is a code word: four hex digits.
 constexpr bool isCodeWord(std::string_view key) {
-    return key.size() == 4 && hexDigitValue(key[0]) >= 0;
+    return key.size() == 4 && std::all_of(key.begin(), key.end(), isHexDigit);
 }
 
 /// The value of a code word.

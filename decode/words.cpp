@@ -6,15 +6,78 @@
 #include "decode/rows_of_code.h"
 #include "framework/text/text.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
+
+// How a line is decoded word by word, and why that gives what the rows give one after another.
+//
+// As long as the blanks stand between the words, a key of four digits can match nothing but a whole
+// word, so up to the row that deletes the blanks each word meets the first row that has it as its
+// key, whatever its neighbours are. From there on the digits of the words stand side by side, and a
+// key is found wherever its digits are. The automaton of crossing_keys.h reads the digits in their
+// order: while it completes no key, no row behind the blanks matches but where a word as a whole is
+// its key, and that word again becomes what its row says. As soon as a key is completed in any
+// other place, or the line is not made of words, the line is left to replaceCodeWords.
+//
+// What is deleted joins its neighbours, what is replaced parts them. A row behind the blanks does
+// so only after others have looked at the digits, so both must be harmless: its word among its
+// neighbours, and the neighbours without it. Three kinds of words are left to the rows:
+// - with a character whose blank is deleted, since every pair behind it is cut elsewhere;
+// - with a deleted late key whose end begins another key, since the neighbours would have to be
+//   read twice;
+// - with a late bar, which others would fold.
+//
+// The same holds for the filler byte, wherever a word has it. The rest is letters: every
+// replacement is an even number of characters, so that the pairs of digits are still cut at the
+// bytes, and holds no digits, so that it comes through the letters as it is.
 
 namespace norvane {
 
 namespace {
 
 using State = CrossingKeys::State;
+
+constexpr bool isBars(std::string_view text) {
+    return text.find('|') != std::string_view::npos;
+}
+constexpr auto characters(std::string_view text) {
+    return std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; });
+}
+
+template <class Property>
+constexpr bool holdsForWalkedRows(Property property) {
+    for (std::size_t row = kFirstWalkedRow; row <= kLastWalkedRow; ++row) {
+        if (!property(row, kReplacementChain[row - 1].key, kReplacementChain[row - 1].with))
+            return false;
+    }
+    return true;
+}
+
+static_assert(holdsForWalkedRows([](std::size_t row, std::string_view key, std::string_view) {
+                  if (row == kBlanksRow || row == kFillerRow)
+                      return true; // whose keys chain_table.h holds to a blank and to 80
+                  return isCodeWord(key) || (row > kBlanksRow && isBars(key));
+              }),
+              "a key is a code word, the blank, the filler, or bars that only later rows put in");
+static_assert(holdsForWalkedRows([](std::size_t row, std::string_view key, std::string_view with) {
+                  return !isCodeWord(key) || !isBars(with) || kRowsOfCode.first[codeOf(key)] < row;
+              }),
+              "no bar comes of a word by itself");
+static_assert(holdsForWalkedRows([](std::size_t, std::string_view, std::string_view with) {
+                  return std::none_of(with.begin(), with.end(), isHexDigit);
+              }),
+              "what is put in completes no key and makes no letter");
+static_assert(holdsForWalkedRows([](std::size_t, std::string_view key, std::string_view with) {
+                  return !isCodeWord(key) || characters(with) % 2 == 0;
+              }),
+              "what is put in keeps the pairs in step while its blank stands");
+static_assert(holdsForWalkedRows([](std::size_t row, std::string_view key, std::string_view) {
+                  return row <= kFillerRow || !isCodeWord(key) ||
+                         (key[0] != '8' && key[0] != '0' && key.find("80") == key.npos);
+              }),
+              "the digits of the filler stand in no other late key but at its end");
 
 /// A few bytes of a caption.
 struct Piece {
@@ -24,6 +87,10 @@ struct Piece {
 
 /// Pieces are written whole and then counted, so the last may reach this far beyond.
 constexpr std::size_t kRoomBeyond = sizeof(Piece::text);
+static_assert(holdsForWalkedRows([](std::size_t, std::string_view, std::string_view with) {
+                  return with.size() <= kRoomBeyond;
+              }),
+              "a piece holds any replacement");
 
 Piece pieceOf(std::string_view text) {
     Piece piece;
@@ -41,7 +108,7 @@ struct WordEffect {
     Piece piece{};
     bool alone = false; // the piece is all that becomes of it, whatever its neighbours are
     bool late = false;  // the row comes behind the deletion of the blanks
-    State behind = CrossingKeys::kNothing; // what a late row's digits end in while they stand
+    State behind = CrossingKeys::kNothing; // what the next digits find before them until it goes
 };
 
 WordEffect effectOf(std::size_t row) {
@@ -50,7 +117,6 @@ WordEffect effectOf(std::size_t row) {
     WordEffect effect;
     effect.late = row > kBlanksRow;
     if (!effect.late) {
-        // A replacement whose blank is deleted puts the pairs behind it out of step.
         effect.alone = with.find(' ') == std::string_view::npos;
     } else {
         // Without its first digit, since the whole of it is a match.
@@ -75,100 +141,129 @@ const std::array<WordEffect, kLastWalkedRow + 1> kEffects = [] {
     return effects;
 }();
 
-/// What two characters are when they are the hex digits of a byte.
-struct ByteText {
-    std::array<char, 4> letter{}; // or the two as they are, of a byte without one
-    unsigned char size = 0;
-    unsigned char byte = 0;
-    State behind = CrossingKeys::kNothing; // what the digits end in by themselves
-    bool isByte = false;
-};
+/// The bytes by their values.
+const std::array<Piece, 256> kLetterOf = [] {
+    std::array<Piece, 256> letters;
+    for (unsigned byte = 0; byte < letters.size(); ++byte)
+        letters.at(byte) = pieceOf(letterOf(static_cast<unsigned char>(byte)));
+    return letters;
+}();
 
-/// By the two characters, in their place in memory read as a number. All but a few stay the zeros
-/// that the system gives when it is first asked for a page, so that a start does not pay for the
-/// whole table.
-constinit std::array<ByteText, 0x10000> byteTexts{};
+constexpr unsigned kFillerByte = 0x80;
+constexpr unsigned kIsByte = 0x100;       // beside a byte's value: there is one
+constexpr unsigned kIsOnlyLetter = 0x200; // it has a letter, and no code word begins with it
 
-const bool kByteTextsFilled = [] {
+/// The byte of two hex digits, with its marks, by their place in memory read as a number; 0 for
+/// other characters. Few pages of it are ever written or read.
+constinit std::array<std::uint16_t, 0x10000> bytesOfDigits{};
+const bool kBytesFilled = [] {
     constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
     for (const char first : kDigits) {
         for (const char second : kDigits) {
             const std::array<char, 2> digits = {first, second};
-            const auto byte =
-                static_cast<unsigned char>(hexDigitValue(first) * 16 + hexDigitValue(second));
-            const std::string_view letter = letterOf(byte);
-            const Piece piece =
-                pieceOf(letter.empty() ? std::string_view(digits.data(), 2) : letter);
-            byteTexts.at(std::bit_cast<std::uint16_t>(digits)) = {
-                piece.text, static_cast<unsigned char>(piece.size), byte,
-                kCrossingKeys.byte.at(CrossingKeys::kNothing).at(byte), true};
+            const auto byte = codeOf({digits.data(), 2});
+            const auto *codes = &kRowsOfCode.first.at(byte * 0x100);
+            const bool beginsCode =
+                std::any_of(codes, codes + 0x100, [](auto row) { return row != 0; });
+            bytesOfDigits.at(std::bit_cast<std::uint16_t>(digits)) = static_cast<std::uint16_t>(
+                byte | kIsByte | (kLetterOf.at(byte).size != 0 && !beginsCode ? kIsOnlyLetter : 0));
         }
     }
     return true;
 }();
 
-const ByteText &byteTextAt(const char *digits) {
+unsigned byteAt(const char *digits) {
     std::uint16_t place = 0;
     std::memcpy(&place, digits, sizeof place);
-    return byteTexts[place];
+    return bytesOfDigits[place];
 }
 
-char *put(char *out, const std::array<char, 4> &text, std::size_t size) {
-    std::memcpy(out, text.data(), text.size());
-    return out + size;
-}
+/// Reads words and writes what becomes of them.
+class WordWriter {
+  public:
+    explicit WordWriter(char *out) : out_(out) {}
+    char *end() const { return out_; }
+
+    /// False when the word cannot be taken alone.
+    bool take(const char *digits) {
+        const unsigned first = byteAt(digits);
+        const unsigned second = byteAt(digits + 2);
+        const unsigned both = first & second;
+        if ((both & kIsOnlyLetter) == 0)
+            return (both & kIsByte) != 0 && takeOther(digits, first & 0xFFU, second & 0xFFU);
+        if (!takeDigits(first & 0xFFU, second & 0xFFU))
+            return false;
+        put(kLetterOf[first & 0xFFU]);
+        put(kLetterOf[second & 0xFFU]);
+        return true;
+    }
+
+  private:
+    bool takeDigits(unsigned high, unsigned low) {
+        if (matches(keys_.byte[keys_.byte[state_][high]][low]))
+            return false;
+        // No beginning of a key is as long as a word, so what stood before it does not count.
+        state_ = keys_.byte[keys_.byte[CrossingKeys::kNothing][high]][low];
+        return true;
+    }
+
+    bool takeOther(const char *digits, unsigned high, unsigned low) {
+        if (const std::size_t row = kRowsOfCode.first[high * 0x100 + low]; row != 0)
+            return takeCode(kEffects[row], high, low);
+        if (low != kFillerByte) {
+            if (!takeDigits(high, low))
+                return false;
+            putByte(high, digits);
+            putByte(low, digits + 2);
+            return true;
+        }
+        if (high != kFillerByte) {
+            state_ = keys_.byte[state_][high];
+            putByte(high, digits);
+        }
+        return !matches(keys_.digit[state_][kFillerByte >> 4U]);
+    }
+
+    bool takeCode(const WordEffect &effect, unsigned high, unsigned low) {
+        if (!effect.alone ||
+            (effect.late && matches(keys_.digit[keys_.byte[state_][high]][low >> 4U])))
+            return false;
+        if (effect.piece.size != 0) // one that will be gone joins its neighbours
+            state_ = effect.behind;
+        put(effect.piece);
+        return true;
+    }
+
+    void put(const Piece &piece) {
+        std::memcpy(out_, piece.text.data(), piece.text.size());
+        out_ += piece.size;
+    }
+
+    /// A letter, or the digits of a byte without one.
+    void putByte(unsigned byte, const char *digits) {
+        put(kLetterOf[byte].size != 0 ? kLetterOf[byte] : pieceOf({digits, 2}));
+    }
+
+    const CrossingKeys &keys_ = kCrossingKeys;
+    State state_ = CrossingKeys::kNothing; // behind the digits that stay, so far
+    char *out_;
+};
 
 /// Writes the caption of `hexText` at `out`, which has room for as many bytes; gives its end, or
 /// nullptr when the words cannot be taken one by one.
 char *putWords(char *out, std::string_view hexText) {
-    constexpr unsigned kFiller = 0x80;
-    const CrossingKeys &keys = kCrossingKeys;
-    State state = CrossingKeys::kNothing; // behind the digits that stay, so far
+    constexpr std::size_t kWordAndBlank = 5;
+    WordWriter writer(out);
     const char *next = hexText.data();
-    const char *const end = next + hexText.size();
-    while (next != end) {
-        const char *const digits = next;
-        if (*digits == ' ') {
-            ++next;
-            continue;
-        }
-        if (end - digits > 4 && digits[4] == ' ')
-            next += 5;
-        else if (end - digits == 4)
-            next = end;
-        else
+    const char *const last = next + hexText.size() - hexText.size() % kWordAndBlank;
+    for (; next != last; next += kWordAndBlank) {
+        if (next[kWordAndBlank - 1] != ' ' || !writer.take(next))
             return nullptr;
-        const ByteText &high = byteTextAt(digits);
-        const ByteText &low = byteTextAt(digits + 2);
-        if (!high.isByte || !low.isByte)
-            return nullptr;
-
-        if (const std::size_t row = kRowsOfCode.first[high.byte * 0x100U + low.byte]; row != 0) {
-            const WordEffect &effect = kEffects[row];
-            if (!effect.alone ||
-                (effect.late && matches(keys.digit[keys.byte[state][high.byte]][low.byte >> 4U])))
-                return nullptr;
-            // A word that will be gone joins its neighbours. One that is replaced parts them, but
-            // until then its own digits stand beside the next ones.
-            state = effect.piece.size == 0 ? state : effect.behind;
-            out = put(out, effect.piece.text, effect.piece.size);
-        } else if (low.byte != kFiller) {
-            if (matches(keys.byte[keys.byte[state][high.byte]][low.byte]))
-                return nullptr;
-            // No beginning of a key is as long as a word, so what stood before it does not count.
-            state = keys.byte[high.behind][low.byte];
-            out = put(out, high.letter, high.size);
-            out = put(out, low.letter, low.size);
-        } else {
-            if (high.byte != kFiller) {
-                state = keys.byte[state][high.byte];
-                out = put(out, high.letter, high.size);
-            }
-            if (matches(keys.digit[state][kFiller >> 4U]))
-                return nullptr;
-        }
     }
-    return out;
+    const std::size_t rest = hexText.size() % kWordAndBlank;
+    if (rest != 0 && (rest != kWordAndBlank - 1 || !writer.take(next)))
+        return nullptr;
+    return writer.end();
 }
 
 } // namespace

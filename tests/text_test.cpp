@@ -1,5 +1,5 @@
+#include "decode/data_line.h"
 #include "framework/files/text_streams.h"
-#include "framework/text/regex.h"
 #include "framework/text/text.h"
 
 #include <clocale>
@@ -163,22 +163,27 @@ TEST(Text, ArraysKeepTheirBounds) {
     EXPECT_THROW(array.set(2, ""), OutOfBoundsException);
 }
 
-TEST(Text, PatternsAreSearchedAnywhereIgnoringCase) {
-    const struct {
-        const char *pattern;
-        std::string_view text;
-        bool found;
-    } rows[] = {
-        {".scc", "a.SCC.txt", true},  {".scc", "xscc", true},  {".scc", "scc", false},
-        {".scc", "file.txt", false},  {".scc", "\nscc", true}, {"\\d\\d\\:", "ab12:", true},
-        {"\\d\\d\\:", "1:2:", false}, {"\t", "a\tb", true},    {"[^|]", "||", false},
-        {"[^|]", "|é", true},         {"[^ *]", " * ", false}, {"[^ *]", " *|", true},
-        {"[^ *]", "", false},
+TEST(Text, NamesAndLinesAreSearchedForPatterns) {
+    for (const char *name : {"a.SCC.txt", "xscc", "\nscc", "sccscc"})
+        EXPECT_TRUE(isSccName(name)) << name;
+    for (const char *name : {"scc", "file.txt", ""})
+        EXPECT_FALSE(isSccName(name)) << name;
+    const std::pair<const char *, std::optional<Refusal>> rows[] = {
+        {"ab12:\t", {}},
+        {"\t9:09:", {}},
+        {"1:2:\t", Refusal::noTimecode},
+        {"1/:2;:\t", Refusal::noTimecode},
+        {"12", Refusal::noTimecode},
+        {"12: 9420", Refusal::noTab},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(RegEx(row.pattern).Search(row.text).has_value(), row.found)
-            << row.pattern << row.text;
-    EXPECT_EQ(RegEx("\\d\\d\\:").Search("ab12:")->start, 2U);
+    for (const auto &[line, refusal] : rows) {
+        const auto apart = takeApart(line);
+        const Refusal *refused = std::get_if<Refusal>(&apart);
+        EXPECT_EQ(refused == nullptr ? std::nullopt : std::optional(*refused), refusal) << line;
+    }
+    const auto line = std::get<DataLine>(takeApart("00:1\t94\t20"));
+    EXPECT_EQ(line.timecode, "00:1");
+    EXPECT_EQ(line.hexText, "94");
 }
 
 TEST(Text, LinesEndInAnyWay) {

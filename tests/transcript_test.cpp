@@ -1,3 +1,4 @@
+#include "framework/text/failures.h"
 #include "tests/support/plain_walk.h"
 #include "transcript/clean_up.h"
 #include "transcript/layout.h"
@@ -81,14 +82,17 @@ TEST(CleanUp, IsThatOfThePlainWalkOnGeneratedText) {
 }
 
 TEST(Layout, InEachForm) {
-    const TextArray captions = arrayOf({"one", ""});
+    TextArray captions = arrayOf({"|one  two", " "});
     TextArray timecodes = arrayOf({"1,5,7", "2", "stale"});
-    EXPECT_EQ(layOut(Form::timecode, captions, timecodes), "[1.5,7]\tone\n\n[2]\t\n\n");
-    EXPECT_EQ(layOut(Form::line, captions, timecodes), "one\n\n");
-    EXPECT_EQ(layOut(Form::paragraph, captions, timecodes), " one ");
-    EXPECT_EQ(layOut(Form::timecode, TextArray(), timecodes), "");
+    EXPECT_EQ(composeTranscript(Form::timecode, captions, timecodes),
+              "[1.5,7]\tone two\n\n[2]\t\n\n");
+    EXPECT_EQ(composeTranscript(Form::line, captions, timecodes), "one two\n\n");
+    EXPECT_EQ(composeTranscript(Form::paragraph, captions, timecodes), " one two ");
+    EXPECT_EQ(captions[0], "one  two"); // entry passes change the entry, text passes do not
+    TextArray none;
+    EXPECT_EQ(composeTranscript(Form::timecode, none, timecodes), "");
     TextArray tooFew = arrayOf({"1,5"});
-    EXPECT_THROW(layOut(Form::line, captions, tooFew), OutOfBoundsException);
+    EXPECT_THROW(composeTranscript(Form::line, captions, tooFew), OutOfBoundsException);
     EXPECT_EQ(tooFew[0], "1.5"); // what was done before the failure stands, in every form
 }
 

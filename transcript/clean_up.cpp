@@ -1,6 +1,8 @@
 #include "transcript/clean_up.h"
 
 #include "decode/accent_pairs.h"
+#include "framework/text/find_any.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 #include <array>
@@ -21,8 +23,9 @@ constexpr std::string_view kTabPass = "]\\t ";
 constexpr std::string_view kLiteralPattern = "[^ *]";
 
 void removeFirst(std::string &entry, std::string_view find, std::string_view unlessOnly) {
-    if (entry.find_first_not_of(unlessOnly) != std::string::npos)
-        entry = Replace(entry, find, "");
+    const std::size_t at = entry.find(find);
+    if (at != std::string::npos && entry.find_first_not_of(unlessOnly) != std::string::npos)
+        entry.erase(at, find.size());
     if (entry == " ")
         entry.clear();
 }
@@ -103,19 +106,21 @@ std::size_t nextChange(std::string_view text, std::size_t start) {
 
 } // namespace
 
+void cleanEntry(std::string &caption) {
+    if (caption != " " && findAny<kBar[0], kLiteralPattern[0]>(caption) == caption.size())
+        return; // no pass would change it
+    removeFirst(caption, kBar, kBar);
+    removeFirst(caption, kLiteralPattern, " *");
+    removeFirst(caption, kBar, " *");
+}
+
 void cleanEntries(TextArray &captions) {
-    const auto holdsMark = [](std::string_view entry) {
-        return entry.find(kBar) != std::string_view::npos ||
-               entry.find(kLiteralPattern[0]) != std::string_view::npos;
-    };
+    std::string caption;
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        if (captions[i] != " " && !holdsMark(captions[i]))
-            continue; // no pass would change it
-        std::string entry(captions[i]);
-        removeFirst(entry, kBar, kBar);
-        removeFirst(entry, kLiteralPattern, " *");
-        removeFirst(entry, kBar, " *");
-        captions.set(i, entry);
+        caption = captions[i];
+        cleanEntry(caption);
+        if (caption.size() != captions[i].size())
+            captions.set(i, caption);
     }
 }
 

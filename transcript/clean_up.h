@@ -1,14 +1,16 @@
 #pragma once
 
-#include "framework/text/text.h"
+#include "framework/text/text_array.h"
 
 #include <string>
 
 namespace norvane {
 
-/// The three entry passes, in place: an entry loses its first two bars, one of nothing but bars
-/// only the first, and an entry that is or comes to be a single blank is emptied. The number of
-/// entries stays.
+/// The three entry passes over a caption, in place: it loses its first two bars, one of nothing but
+/// bars only the first, and what is or comes to be a single blank is emptied.
+void cleanEntry(std::string &caption);
+
+/// cleanEntry on each; their number stays.
 void cleanEntries(TextArray &captions);
 
 /// The text passes over a composed transcript, in place: accent pairs, bars to blanks, and each run

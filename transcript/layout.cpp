@@ -5,39 +5,42 @@
 
 namespace norvane {
 
-std::string layOut(Form form, const TextArray &captions, TextArray &timecodes) {
-    constexpr std::size_t kMostBesideTexts = 7; // bytes of brackets, tab and ends of line
-    std::string body;
-    body.reserve(captions.byteCount() + timecodes.byteCount() + captions.size() * kMostBesideTexts);
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-        if (timecodes[i].find(',') != std::string_view::npos)
-            timecodes.set(i, Replace(timecodes[i], ",", "."));
-        switch (form) {
-        case Form::timecode:
-            body += '[';
-            body.append(timecodes[i])
-                .append("]\t")
-                .append(captions[i])
-                .append(EndOfLine)
-                .append(EndOfLine);
-            break;
-        case Form::paragraph:
-            body += ' ';
-            body += captions[i];
-            break;
-        case Form::line:
-            body.append(captions[i]).append(EndOfLine);
-            break;
-        }
-    }
-    return body;
+void TranscriptBody::add(std::string_view timecode, std::string_view caption) {
+    if (form_ == Form::timecode)
+        text_.append("[").append(timecode).append("]\t");
+    else if (form_ == Form::paragraph)
+        text_ += ' ';
+    text_ += caption;
+    if (form_ != Form::paragraph)
+        text_ += EndOfLine;
+    if (form_ == Form::timecode)
+        text_ += EndOfLine;
+}
+
+std::string TranscriptBody::take() {
+    cleanTranscript(text_);
+    return std::move(text_);
+}
+
+void correctComma(std::string &timecode) {
+    const std::size_t comma = timecode.find(',');
+    if (comma != std::string::npos)
+        timecode[comma] = '.';
 }
 
 std::string composeTranscript(Form form, TextArray &captions, TextArray &timecodes) {
     cleanEntries(captions);
-    std::string body = layOut(form, captions, timecodes);
-    cleanTranscript(body);
-    return body;
+    constexpr std::size_t kMostBesideTexts = 7; // bytes of brackets, tab and ends of line
+    TranscriptBody body(form, captions.byteCount() + timecodes.byteCount() +
+                                  captions.size() * kMostBesideTexts);
+    std::string timecode;
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        timecode = timecodes[i];
+        correctComma(timecode);
+        timecodes.set(i, timecode);
+        body.add(timecode, captions[i]);
+    }
+    return body.take();
 }
 
 std::string headingOf(const std::string &name) {

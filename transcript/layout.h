@@ -3,18 +3,35 @@
 #include "framework/text/text_array.h"
 
 #include <string>
+#include <string_view>
 
 namespace norvane {
 
 enum class Form { timecode, line, paragraph };
 
-/// The body of a transcript before its text passes. The first "," of each timecode becomes a "." in
-/// the array itself, in every form. Throws OutOfBoundsException when there are fewer timecodes than
-/// captions.
-std::string layOut(Form form, const TextArray &captions, TextArray &timecodes);
+/// The body of a transcript, put together entry by entry.
+class TranscriptBody {
+  public:
+    /// Makes room ahead for `bytes` bytes.
+    TranscriptBody(Form form, std::size_t bytes) : form_(form) { text_.reserve(bytes); }
 
-/// The body of a transcript, all passes done. The entry passes and the commas of the timecodes
-/// change the arrays themselves. Throws as layOut does.
+    /// Adds an entry on which the entry passes were done.
+    void add(std::string_view timecode, std::string_view caption);
+
+    /// The whole body, which this object then no longer has; the text passes are done on it.
+    std::string take();
+
+  private:
+    Form form_;
+    std::string text_;
+};
+
+/// The first "," of a timecode becomes a ".".
+void correctComma(std::string &timecode);
+
+/// The body of a transcript of arrays, all passes done. The entry passes and the first "," of each
+/// timecode, which becomes a ".", change the arrays themselves. Throws OutOfBoundsException when
+/// there are fewer timecodes than captions.
 std::string composeTranscript(Form form, TextArray &captions, TextArray &timecodes);
 
 /// The first line of a transcript; an empty one stands between it and the body.

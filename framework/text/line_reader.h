@@ -1,6 +1,7 @@
 #pragma once
 
-#include <algorithm>
+#include "framework/text/find_any.h"
+
 #include <cstddef>
 #include <string_view>
 
@@ -18,20 +19,35 @@ class LineReader {
 
     /// The next line without its ending; the empty text at the end.
     std::string_view next() {
-        if (nextLineFeed_ < position_ || position_ == 0)
-            nextLineFeed_ = std::min(text_.find('\n', position_), text_.size());
-        const std::string_view upToLineFeed = text_.substr(position_, nextLineFeed_ - position_);
-        const std::string_view line = upToLineFeed.substr(0, upToLineFeed.find('\r'));
-        position_ += line.size();
+        const std::size_t end = findAny<'\n', '\r'>(text_, position_);
+        const std::string_view line = text_.substr(position_, end - position_);
+        position_ = end;
         const std::string_view ending = text_.substr(position_, 2);
         position_ += ending == "\r\n" ? 2 : ending.empty() ? 0 : 1;
+        return line;
+    }
+
+    /// The next line that is not empty; the empty text at the end.
+    std::string_view nextNotEmpty() {
+        std::string_view line;
+        while (line.empty() && !atEnd())
+            line = next();
         return line;
     }
 
   private:
     std::string_view text_;
     std::size_t position_ = 0;
-    std::size_t nextLineFeed_ = 0; // or the end of the text: looked for once, not for each CR
 };
+
+/// Which line of `text` the line `line`, a view of it, is: from 1, empty ones counted.
+inline std::size_t lineNumber(std::string_view text, std::string_view line) {
+    std::size_t number = 0;
+    LineReader lines(text);
+    do {
+        ++number;
+    } while (lines.next().data() < line.data() && !lines.atEnd());
+    return number;
+}
 
 } // namespace norvane

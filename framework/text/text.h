@@ -3,6 +3,7 @@
 #include "framework/text/failures.h"
 #include "framework/text/text_array.h"
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -80,15 +81,18 @@ std::string Chr(int code);
 /// The largest whole number not above `value`.
 double Floor(double value);
 
-/// The value of an ASCII hex digit of either case, 0 to 15, or -1.
+/// The value of each byte as an ASCII hex digit of either case, 0 to 15, or -1.
+inline constexpr auto kHexDigitValues = [] {
+    std::array<signed char, 256> values{};
+    values.fill(-1);
+    for (signed char value = 0; value < 16; ++value) {
+        values.at(static_cast<unsigned char>("0123456789abcdef"[value])) = value;
+        values.at(static_cast<unsigned char>("0123456789ABCDEF"[value])) = value;
+    }
+    return values;
+}();
 constexpr int hexDigitValue(char digit) {
-    if (digit >= '0' && digit <= '9')
-        return digit - '0';
-    if (digit >= 'a' && digit <= 'f')
-        return digit - 'a' + 10;
-    if (digit >= 'A' && digit <= 'F')
-        return digit - 'A' + 10;
-    return -1;
+    return kHexDigitValues[static_cast<unsigned char>(digit)];
 }
 
 } // namespace norvane

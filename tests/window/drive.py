@@ -6,6 +6,7 @@ xdotool, dbus-run-session, at-spi2-core and gdbus. Exits with 0 when all is as i
 import os
 import pathlib
 import re
+import signal
 import subprocess
 import sys
 import tempfile
@@ -35,19 +36,6 @@ UNFOLDED = {
 # These are as wide as their captions, at most as the table says.
 CHECKABLE = {"Include Timecode", "Line by line form", "Paragraph form", "Unbuffered timecode",
              "Keep SCC timecode", "Decode Watch Folder Files"}
-HELP = {
-    "Help on unbuffered timecode":
-        "This option gives you the more accurate start time since the SCC format builds in a buffer "
-        "time of about 1 frame per 4-digit code prior to the caption's actual start time. The "
-        "timecode will be displayed in hundredths of a second.",
-    "Help on keeping the SCC timecode":
-        "This option will leave the SCC timecode the way it is in frames. You may want to use this "
-        "if you are attempting to troubleshoot an SCC file that has errors, for example.",
-    "Help on the watch folder":
-        "If you designate a folder to watch, Norvane will keep checking the folder and will decode "
-        "any files it finds in that folder at the given number of minutes. Click the triangle for "
-        "settings and to activate this feature.",
-}
 SAMPLE = ("Scenarist_SCC V1.0\n\n"
           "00:00:02:10\t9420 9420 94ae 94ae 9470 9470 c845 4c4c 4f80 942f 942f\n\n"
           "00:00:05;00\t9420 9420 94ae 94ae 9137 9137 57ef f26c 6480 1c20 942f 942f\n")
@@ -87,7 +75,7 @@ class Node:
 
     def call(self, method, *arguments):
         return output("gdbus", "call", "--address", Node.bus, "--dest", self.owner, "--object-path",
-                      self.path, "--method", "org.a11y.atspi." + method, *arguments)
+                      self.path, "--method", "org.a11y.atspi." + method, "--", *arguments)
 
     def children(self):
         found = re.findall(r"\('(:[\d.]+)', (?:objectpath )?'([^']+)'\)",
@@ -105,9 +93,25 @@ class Node:
         numbers = re.findall(r"-?\d+", self.call("Component.GetExtents", "0").replace("uint32", ""))
         return tuple(int(number) for number in numbers)
 
+    def has(self, state):
+        """Whether it is in a state, given by its number: 4 checked, 25 showing."""
+        states = re.search(r"\d+", self.call("Accessible.GetState").replace("uint32", ""))
+        return bool(states and int(states.group()) & 1 << state)
+
     def shows(self):
-        states = int(re.search(r"\d+", self.call("Accessible.GetState").replace("uint32", "")).group())
-        return bool(states & 1 << 25)
+        return self.has(25)
+
+    def act(self):
+        """What a screen reader's user does with it: press a button, toggle a box."""
+        self.call("Action.DoAction", "0")
+
+    def descendant(self, name, role=""):
+        for child in self.children():
+            found = child.name() == name and role in child.call("Accessible.GetRoleName")
+            node = child if found else child.descendant(name, role)
+            if node:
+                return node
+        return None
 
 
 def windows():
@@ -115,12 +119,21 @@ def windows():
     return [window for root in roots for window in root.children()]
 
 
+def scaled(places, scale):
+    """Places as they are where each point takes `scale` pixels, edge by edge."""
+    def pixels(left, top, width, height):
+        edges = [int(edge * scale + 0.5) for edge in (left, top, left + width, top + height)]
+        return edges[0], edges[1], edges[2] - edges[0], edges[3] - edges[1]
+    return {name: pixels(*place) for name, place in places.items()}
+
+
 class Program:
     """The program from its start to its end."""
 
-    def __init__(self, executable, message=None):
-        """`message` is what a box says ahead of the window."""
-        self.process = subprocess.Popen([executable])
+    def __init__(self, executable, message=None, scale=1):
+        """`message` is what a box says ahead of the window; `scale` what it grows by."""
+        self.process, self.scale = subprocess.Popen([executable]), scale
+        self.places = scaled({**ALWAYS, **UNFOLDED}, scale)
         self.window, self.node = "", Node("", "")
         if message:
             box = self.dialog("Norvane")
@@ -129,12 +142,13 @@ class Program:
         self.window = wait_for("the window comes up", self.find_window)
         self.node = wait_for("the window can be read", windows)[0]
         wait_for("the window takes keys", lambda: xdotool("getactivewindow") == self.window)
-        self.menu_bar = wait_for("the menu bar has its height", lambda: self.geometry()[1] - 281)
+        self.menu_bar = wait_for("the menu bar has its height",
+                                 lambda: self.geometry()[1] - round(281 * scale))
 
-    @staticmethod
-    def find_window():
+    def find_window(self):
         found = xdotool("search", "--onlyvisible", "--name", "^Norvane$").split()
-        return next((window for window in found if "586x" in xdotool("getwindowgeometry", window)), None)
+        width = f" {round(586 * self.scale)}x"
+        return next((window for window in found if width in xdotool("getwindowgeometry", window)), None)
 
     def geometry(self):
         size = re.search(r"(\d+)x(\d+)", xdotool("getwindowgeometry", self.window))
@@ -153,12 +167,12 @@ class Program:
                 continue
             left, top, width, height = node.place()
             if name in CHECKABLE:
-                width = max(width, {**ALWAYS, **UNFOLDED}[name][2])
+                width = max(width, self.places[name][2])
             places[name] = (left - origin_left, top - origin_top - self.menu_bar, width, height)
         return places
 
     def click(self, name):
-        left, top, width, height = {**ALWAYS, **UNFOLDED}[name]
+        left, top, width, height = self.places[name]
         xdotool("mousemove", "--window", self.window, left + min(width, 24) // 2,
                 top + height // 2 + self.menu_bar, "click", 1)
 
@@ -174,8 +188,11 @@ class Program:
     def no_dialog(self):
         wait_for("the dialog closes", lambda: sum(window.shows() for window in windows()) == 1)
 
-    def decode(self, source, target):
-        self.click("Select SCC File")
+    def act(self, name):
+        self.node.descendant(name).act()
+
+    def decode(self, source, target, select=None):
+        (select or self.click)("Select SCC File")
         self.dialog("Open")
         xdotool("type", source)
         xdotool("key", "Return")
@@ -201,10 +218,9 @@ def look(program):
     check("controls of the unfolded window", program.controls(), {**ALWAYS, **UNFOLDED})
     program.click("Watch folder settings")
     wait_for("the window folds", lambda: program.geometry() == (586, 281 + program.menu_bar))
-    for button, text in HELP.items():
+    for button in (name for name in ALWAYS if name.startswith("Help on")):
         program.click(button)
-        names = [node.name() for node in program.dialog("Norvane").children()]
-        check("help box", text in names and text or names, text)
+        program.dialog("Norvane")
         xdotool("key", "Escape")
         program.no_dialog()
 
@@ -227,6 +243,107 @@ def transcribe(program, companion, folder, opened):
         check(f"transcript, {form}, {clock}", target.read_bytes(), printed)
         wait_for("the transcript is opened",
                  lambda: unquote(opened.read_text()) == f"file://{target}\n")
+
+
+def decode_by_bus(program, source, target):
+    program.act("Select SCC File")
+    for title, button, path in (("Open", "Open", source), ("Save", "Save", target)):
+        dialog = program.dialog(title)
+        dialog.descendant("File name:", "text").call("EditableText.SetTextContents", path)
+        dialog.descendant(button).act()
+    program.no_dialog()
+
+
+def without_a_mouse(build, folder):
+    """The main job by keys alone, and by what a screen reader asks for."""
+    source, target = folder / "talk.scc", folder / "by hand.txt"
+
+    def check_transcript(form):
+        printed = subprocess.run([f"{build}/command/norvane-transcript", "--form", form, source],
+                                 capture_output=True, check=True).stdout
+        check(f"transcript without a mouse, {form}", target.read_bytes(), printed)
+        target.unlink()
+
+    program = Program(f"{build}/shell/norvane")
+    program.decode(source, target, lambda name: xdotool("key", "Return"))
+    check_transcript("timecode")
+    xdotool("key", "Tab", "Tab", "Tab", "space", "shift+Tab", "shift+Tab", "shift+Tab")
+    program.decode(source, target, lambda name: xdotool("key", "Return"))
+    check_transcript("paragraph")
+    program.act("Line by line form")
+    boxes = ("Line by line form", "Include Timecode", "Paragraph form")
+    check("boxes", [program.node.descendant(box).has(4) for box in boxes], [True, True, False])
+    program.act("Include Timecode")
+    decode_by_bus(program, source, target)
+    check_transcript("line")
+    program.act("Watch folder settings")
+    program.act("Decode Watch Folder Files")
+    program.dialog("Norvane")
+    xdotool("key", "Escape")
+    program.no_dialog()
+
+    minutes = program.node.descendant("Minutes between two checks for files")
+    minutes.call("Component.GrabFocus")
+    for keys, text in (("alt+e t", ""), ("alt+e p", "15"), ("ctrl+a alt+e d", "")):
+        xdotool("key", *(["ctrl+a"] if text == "" else []), *keys.split())
+        wait_for(f"{keys} leaves {text!r}",
+                 lambda: minutes.call("Text.GetText", "0", "-1") == f"('{text}',)")
+    program.process.terminate()
+    program.ends()
+
+
+def picture(window):
+    """What a window shows, as rows of its pixels."""
+    size = re.search(r"(\d+)x(\d+)", xdotool("getwindowgeometry", window)).groups()
+    data = subprocess.run(["import", "-window", window, "-depth", "8", "rgb:-"], capture_output=True,
+                          check=True).stdout
+    width = 3 * int(size[0])
+    return [data[at:at + width] for at in range(0, len(data), width)]
+
+
+def reading_is_seen(build, folder):
+    """Halts the program when it has begun to read a large file: the window must tell so by then."""
+    source = folder / "large.scc"
+    source.touch()
+    os.truncate(source, 400_000_000)
+    program = Program(f"{build}/shell/norvane")
+    before = picture(program.window)
+    program.click("Select SCC File")
+    program.dialog("Open")
+    xdotool("type", source)
+    memory = pathlib.Path(f"/proc/{program.process.pid}/statm")
+    enough = int(memory.read_text().split()[0]) + 300_000_000 // os.sysconf("SC_PAGE_SIZE")
+    xdotool("key", "Return")
+    while int(memory.read_text().split()[0]) < enough:
+        check("the program reads", program.process.poll(), None)
+    program.process.send_signal(signal.SIGSTOP)
+    now = picture(program.window)
+    program.process.send_signal(signal.SIGCONT)
+    top, left = program.menu_bar, slice(0, 3 * 430)
+    same = [row[left] == old[left] for row, old in zip(now, before)]
+    check("the dialog's picture has gone", all(same[:top + 200]), True)
+    check("the text and the bar show", all(same[top + 208:top + 222]) or same[top + 230], False)
+    bar = now[top + 230]
+    check("the bar is empty", bar[3 * 30:3 * 300], bar[3 * 30:3 * 31] * 270)
+    program.dialog("Save")
+    xdotool("key", "Escape")
+    program.no_dialog()
+    xdotool("key", "ctrl+q")
+    program.ends()
+    source.unlink()
+
+
+def large_font(build, folder):
+    """On a desktop whose font is 16 points large, 21 pixels, all has 13 eighths of its size."""
+    settings = folder / "kdeglobals"
+    settings.write_text("[General]\nfont=Sans,16,-1,5,50,0,0,0,0,0\n")
+    os.environ.update(XDG_CURRENT_DESKTOP="KDE", KDE_SESSION_VERSION="5")
+    program = Program(f"{build}/shell/norvane", scale=1.625)
+    check("controls in large", program.controls(), scaled(ALWAYS, 1.625))
+    xdotool("key", "ctrl+q")
+    program.ends()
+    del os.environ["XDG_CURRENT_DESKTOP"]
+    settings.unlink()
 
 
 def unfold(program):
@@ -318,6 +435,10 @@ def main(build):
     again.ends()
     (folder / "com.bellwick.norvane.prefs").unlink()
     watch(build, folder)
+    (folder / "com.bellwick.norvane.prefs").unlink()
+    without_a_mouse(build, folder)
+    reading_is_seen(build, folder)
+    large_font(build, folder)
     print("window: all as it must be")
 
 

@@ -35,6 +35,18 @@ std::vector<ExplainedWord> explainWords(const SccLine &line, const LineWalk &wal
     return rows;
 }
 
+/// A pop-on caption shows at its end; all others show as they are sent.
+std::optional<std::size_t> shownAt(const SccLine &line) {
+    constexpr unsigned kEndOfCaption = 0x142F;
+    const bool isSentShown = line.mode.starts_with("roll-up") || line.mode == "paint-on";
+    for (std::size_t i = 0; i < line.words.size(); ++i) {
+        const CodeMeaning &meaning = line.words[i].meaning;
+        if (meaning.code == kEndOfCaption || (isSentShown && isCharacters(meaning)))
+            return i;
+    }
+    return {};
+}
+
 std::vector<std::string> textsOf(const std::vector<Finding> &findings, std::size_t line) {
     std::vector<std::string> texts;
     for (const Finding &finding : findings) {
@@ -77,11 +89,7 @@ Explanation explain(const SccLine &line, Clock clock, const std::vector<Finding>
     if (!captions.empty())
         explanation.entry = walk.entry();
     explanation.words = explainWords(line, walk);
-    constexpr unsigned kEndOfCaption = 0x142F;
-    for (const SccWord &word : line.words) {
-        if (word.meaning.code == kEndOfCaption && !explanation.shownAt)
-            explanation.shownAt = static_cast<std::size_t>(&word - line.words.data());
-    }
+    explanation.shownAt = shownAt(line);
     Findings ofEntry{FindingKinds().set()};
     checkEntry(line, walk, ofEntry);
     for (const Finding &finding : ofEntry.list())

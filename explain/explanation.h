@@ -22,7 +22,7 @@ struct Explanation {
     bool isHeader = false;                // then the rest but the advice is empty
     std::string start{};                  // as the transcript has it
     std::optional<std::string> entry{};   // none when the transcript cannot have it
-    std::optional<std::size_t> shownAt{}; // the frame of the code that shows a pop-on caption
+    std::optional<std::size_t> shownAt{}; // the frame from which it is seen
     std::vector<ExplainedWord> words{};
     std::vector<std::string> advice{}; // for the user, a paragraph each
 };

@@ -38,10 +38,10 @@ std::vector<ExplainedWord> explainWords(const SccLine &line, const LineWalk &wal
 /// A pop-on caption shows at its end; all others show as they are sent.
 std::optional<std::size_t> shownAt(const SccLine &line) {
     constexpr unsigned kEndOfCaption = 0x142F;
-    const bool isSentShown = line.mode.starts_with("roll-up") || line.mode == "paint-on";
     for (std::size_t i = 0; i < line.words.size(); ++i) {
-        const CodeMeaning &meaning = line.words[i].meaning;
-        if (meaning.code == kEndOfCaption || (isSentShown && isCharacters(meaning)))
+        const SccWord &word = line.words[i];
+        const bool isShownAtOnce = word.mode.starts_with("roll-up") || word.mode == "paint-on";
+        if (word.meaning.code == kEndOfCaption || (isShownAtOnce && isCharacters(word.meaning)))
             return i;
     }
     return {};

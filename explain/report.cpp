@@ -35,7 +35,7 @@ std::string headOf(const SccLine &line, const std::optional<std::size_t> &shownA
         head += line.timecode->dropFrame ? ", drop-frame" : ", non-drop";
     head += ", " + counted(static_cast<long>(line.words.size()), "word");
     if (!line.mode.empty())
-        head += ", " + line.mode;
+        head.append(", ").append(line.mode);
     if (shownAt) {
         head += ", shown at +" + std::to_string(*shownAt);
         if (line.timecode)

@@ -116,6 +116,7 @@ void SccReader::assignService(SccWord &word) {
     if (!mode.empty())
         service = {mode == "text", mode};
     const bool isText = service.isText && !isOfCaptions(meaning.code);
+    word.mode = service.mode;
     word.service = (isText ? "T" : "CC") + std::to_string(service_ + 1);
 }
 

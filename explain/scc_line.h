@@ -20,8 +20,9 @@ struct SccWord {
     bool isCode = false; // it is four hex digits, and what follows is known
     bool parity = false; // as CEA-608 asks for
     CodeMeaning meaning{};
-    std::string service{}; // CC1, T1, CC2, ..., by itself and the words before it
-    bool repeats = false;  // the second of a code that is sent twice: a decoder passes over it
+    std::string service{};   // CC1, T1, CC2, ..., by itself and the words before it
+    std::string_view mode{}; // of that service behind it: "pop-on", "roll-up of 3 rows", ...
+    bool repeats = false;    // the second of a code that is sent twice: a decoder passes over it
 };
 
 /// A kept line of a file behind its header.
@@ -33,7 +34,7 @@ struct SccLine {
     DataLine data{};
     std::optional<FrameTimecode> timecode{}; // when its form is right
     std::vector<SccWord> words{};
-    std::string mode{}; // "pop-on", "roll-up of 3 rows", ... at its end; empty when not yet known
+    std::string_view mode{}; // at its end; empty when not yet known
 };
 
 /// Reads the lines of an SCC file one after another. The services and modes follow from all words

@@ -6,13 +6,7 @@ FileType FileTypes1::TextScc;
 std::vector<FileType *> FileTypes1::pAllFileTypes;
 
 void FileTypes1::_Initialize() {
-    TextScc.Name = kSccFileType;
-    TextScc.Extensions = ".scc";
-    TextScc.MacType = "TXT";
-    TextScc.MacCreator = "R*ch";
-    TextScc.MimeType = "";
-    TextScc.Imported = true;
-    TextScc.ConformsTo = "";
+    TextScc = {kSccFileType, ".scc", "TXT", "R*ch", "", true, "", ""};
     pAllFileTypes.push_back(&TextScc);
 }
 
@@ -20,14 +14,8 @@ FileType scctypes::TextScc;
 std::vector<FileType *> scctypes::pAllFileTypes;
 
 void scctypes::_Initialize() {
-    TextScc.Name = kSccFileType;
-    TextScc.Extensions = ".txt;.scc";
-    TextScc.MacType = "TEXT";
-    TextScc.MacCreator = "????";
-    TextScc.MimeType = "";
-    TextScc.Imported = true;
-    TextScc.ConformsTo = "public.data, public.content";
-    TextScc.UTI = "public.text";
+    TextScc = {kSccFileType, ".txt;.scc", "TEXT", "????", "", true, "public.data, public.content",
+               "public.text"};
     pAllFileTypes.push_back(&TextScc);
 }
 

@@ -107,26 +107,7 @@ TEST_F(HotFolder, ABadFileHoldsUpThoseBehindItAndItsTimecodesPileUp) {
 
     std::filesystem::remove(folder.path("watch/b.scc"));
     desktop.advance(kInterval);
-    EXPECT_EQ(seen(), R"(
-ProgressBar1 65536 of 65536
-ProgressText "Copying SCC files..."
-ProgressText ""
-ProgressText "Reading SCC File..."
-ProgressBar1 0 of 65536
-ProgressBar1 repainted
-ProgressBar1 16384 of 65536
-ProgressBar1 repainted
-ProgressBar1 32768 of 65536
-ProgressBar1 repainted
-ProgressBar1 49152 of 65536
-ProgressBar1 repainted
-ProgressBar1 65536 of 65536
-ProgressBar1 repainted
-ProgressText "Done Writing SCC Transcripts"
-ProgressBar1 0 of 65536
-ProgressText "Done Writing SCC Transcripts" hidden
-ProgressBar1 0 of 65536 hidden
-)");
+    EXPECT_EQ(seen(), scene("cycle"));
     EXPECT_EQ(folder.read("dest/c.txt"),
               hiTranscript("c.scc", {"00:00:02.33", "00:00:02.33", "00:00:02.33", "03:00:00.33"}));
     input("d.scc", {hiLine("00:00:07:00")});
@@ -198,47 +179,6 @@ TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
     EXPECT_FALSE(std::filesystem::is_symlink(path));
     EXPECT_TRUE(folder.has("kept.scc"));
     EXPECT_FALSE(std::filesystem::is_symlink(folder.path("dest/scc files/a.scc")));
-}
-
-TEST_F(HotFolder, FaultsInMidCycleLoseNoInput) {
-    const std::string dest = folder.path("dest");
-    std::unique_ptr<FullDisk> full;
-    struct Row {
-        std::function<void()> breakIt;
-        std::string problem;
-        std::function<void()> mendIt;
-    };
-    const Row rows[] = {
-        {[&] { full = std::make_unique<FullDisk>(10); },
-         "“" + dest + "/b.txt” cannot be written: File too large.", [&] { full.reset(); }},
-        {[&] { std::filesystem::rename(dest, dest + "-away"); },
-         "“" + dest + "/b.txt” is in a folder that does not exist.",
-         [&] { std::filesystem::rename(dest + "-away", dest); }},
-    };
-    EXPECT_EQ(watch(), Lines{});
-    for (const Row &row : rows) {
-        input("a.scc", {hiLine("00:00:01:00")});
-        input("b.scc", {hiLine("00:00:02:00")});
-        input("c.scc", {hiLine("00:00:03:00")});
-        desktop.whenSeen = [&](const std::string &line) {
-            if (line == "ProgressText \"Reading SCC File...\"" && window().fileName == "b.scc")
-                row.breakIt();
-        };
-        EXPECT_EQ(wait(), Lines{failed(row.problem)});
-        desktop.whenSeen = nullptr;
-        row.mendIt();
-        EXPECT_EQ(folder.read("watch/b.scc"), sccFile({hiLine("00:00:02:00")}));
-        EXPECT_EQ(folder.read("watch/c.scc"), sccFile({hiLine("00:00:03:00")}));
-        EXPECT_EQ(folder.read("dest/a.txt"), hiTranscript("a.scc", {"00:00:01.33"}));
-        EXPECT_FALSE(folder.has("dest/b.txt"));
-        EXPECT_EQ(wait(), Lines{});
-        EXPECT_EQ(cycle(), Lines{});
-        EXPECT_EQ(folder.read("dest/b.txt"), hiTranscript("b.scc", {"00:00:02.33"}));
-        EXPECT_EQ(folder.read("dest/c.txt"), hiTranscript("c.scc", {"00:00:03.33"}));
-        EXPECT_TRUE(std::filesystem::is_empty(folder.path("watch")));
-        for (const char *name : {"/a.txt", "/b.txt", "/c.txt"})
-            std::filesystem::remove(dest + name);
-    }
 }
 
 TEST_F(HotFolder, PermissionsThatAreMissing) {
@@ -408,17 +348,7 @@ TEST_F(HotFolder, TheCommandThatSwitchesTheWatch) {
     desktop.answerFolder(folder.item("watch"));
     desktop.answerFolder(folder.item("dest"));
     command();
-    EXPECT_EQ(seen(), R"(
-CheckBox1 on
-message You must choose both a watch folder and a destination folder to activate the timer.
-CheckBox1 off
-message Please select a folder to watch.
-folder dialog
-TextField1 "~/watch/" disabled
-message Please select a destination folder for decoded files.
-folder dialog
-TextField2 "~/dest/" disabled
-)");
+    EXPECT_EQ(seen(), scene("command"));
     EXPECT_EQ(window().destFolder, folder.path("dest/"));
     EXPECT_FALSE(window().CheckBox1.Value || window().myWatchFolder);
 

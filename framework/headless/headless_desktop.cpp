@@ -121,7 +121,6 @@ void HeadlessDesktop::add(Window &window) {
                 seen();
         };
         control->Visible.shown = seen;
-        control->Enabled.shown = changed;
         control->repaint = [this, control](bool immediately) {
             if (control->Visible && immediately)
                 note(control->Name + " repainted");

@@ -138,10 +138,12 @@ void WindowPeer::resizeEvent(QResizeEvent *event) {
 /// Takes back what a window manager granted though the window offers it not.
 void WindowPeer::changeEvent(QEvent *event) {
     QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || !isVisible()) // hidden: window_ may be gone
+        return;
     Qt::WindowStates offered = Qt::WindowMinimized | Qt::WindowActive;
     offered.setFlag(Qt::WindowMaximized, window_.MaximizeButton);
     offered.setFlag(Qt::WindowFullScreen, window_.FullScreenButton);
-    if (event->type() == QEvent::WindowStateChange && (windowState() & ~offered))
+    if (windowState() & ~offered)
         setWindowState(windowState() & offered);
 }
 

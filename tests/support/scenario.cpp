@@ -59,7 +59,7 @@ void Scenario::decode(const std::string &name, const std::string &saveAs) {
 }
 
 std::string Scenario::seen() {
-    std::string text = "\n";
+    std::string text;
     for (const std::string &line : desktop.takeLog())
         text += line + "\n";
     return ReplaceAllB(text, folder.path(), "~/");
@@ -73,6 +73,12 @@ Lines Scenario::messages() {
             messages.push_back(seen.substr(kMessage.size()));
     }
     return messages;
+}
+
+std::string scene(const std::string &name) {
+    std::ostringstream text;
+    text << std::ifstream(NORVANE_SCENES + name + ".txt", std::ios::binary).rdbuf();
+    return text.str();
 }
 
 std::string hiLine(const std::string &timecode) {

@@ -53,7 +53,7 @@ class Scenario : public testing::Test {
     /// "".
     void decode(const std::string &name, const std::string &saveAs);
 
-    /// The log since the last call, a line each below an empty one, with "~/" for the folder.
+    /// The log since the last call, a line each, with "~/" for the folder.
     std::string seen();
 
     /// The messages of the log, cleared by the call; what else was seen is dropped.
@@ -63,6 +63,9 @@ class Scenario : public testing::Test {
     TemporaryFolder preferences; // the user's folder for them
     HeadlessDesktop desktop;
 };
+
+/// What was seen in a scene, as tests/scenes/NAME.txt has it.
+std::string scene(const std::string &name);
 
 /// A data line whose caption is "Hi!" and comes a third of a second behind its timecode.
 std::string hiLine(const std::string &timecode);

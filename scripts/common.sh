@@ -49,7 +49,7 @@ configure() {
 # build PRESET [TARGET...]
 build() {
     local command=(cmake --build "$root/build/$1" ${2+--target "${@:2}"})
-    "${command[@]}" -- -n | grep -q 'no work to do' || echo 'Compiling Norvane; the first time takes a minute or two.' >&2
+    "${command[@]}" -- -n | grep -q 'no work to do' || echo 'Compiling Norvane; the first time takes some minutes.' >&2
     quietly "${command[@]}"
 }
 

@@ -42,9 +42,10 @@ void App::GetPrefs() {
     const auto file = folder ? folder->Child(kFile) : Ref<FolderItem>::nil("no folder.");
     const bool exists = file && file->Exists();
     const auto stream = exists ? file->OpenAsTextFile() : Ref<TextInputStream>::nil("no file.");
-    prefsUnread_ = false;
-    if (!stream)
+    if (!stream) {
+        prefsUnread_ = false;
         return;
+    }
     const auto readSwitch = [&] { return equal(stream->ReadLine(), "true"); };
     std::array<bool, 5> options{};
     for (bool &option : options)
@@ -62,6 +63,7 @@ void App::GetPrefs() {
     window.ParagraphBox.Value = options[2];
     window.RadioButton1.Value = options[3];
     window.RadioButton2.Value = options[4];
+    prefsUnread_ = false;
 }
 
 } // namespace norvane

@@ -244,10 +244,9 @@ TEST_F(Files, OnlyLinksOfTheUserAndOfRootAreFollowed) {
         GTEST_SKIP() << "only root can make links of other users";
     constexpr uid_t kStranger = 1;
     folder.write("home/keys", "keys");
-    for (const uid_t user : {uid_t{0}, uid_t{65534}, kStranger}) {
-        const std::string suffix = std::to_string(user);
-        link("home", "folder" + suffix, user);
-        link("home/keys", "keys" + suffix, user);
+    for (const uid_t user : {0U, 65534U, kStranger}) {
+        link("home", "folder" + std::to_string(user), user);
+        link("home/keys", "keys" + std::to_string(user), user);
     }
     const auto isFollowed = [&](const std::string &suffix) {
         const auto keys = folder.item("keys" + suffix);
@@ -262,14 +261,10 @@ TEST_F(Files, OnlyLinksOfTheUserAndOfRootAreFollowed) {
         return followed;
     };
     chmod(folder.path().c_str(), 0777);
-    EXPECT_TRUE(isFollowed("0"));
-    EXPECT_FALSE(isFollowed("65534"));
-    EXPECT_FALSE(isFollowed("1"));
+    EXPECT_TRUE(isFollowed("0") && !isFollowed("65534") && !isFollowed("1"));
     {
         const OrdinaryUser user;
-        EXPECT_TRUE(isFollowed("0"));
-        EXPECT_TRUE(isFollowed("65534"));
-        EXPECT_FALSE(isFollowed("1"));
+        EXPECT_TRUE(isFollowed("0") && isFollowed("65534") && !isFollowed("1"));
         // A copy or a text takes the place of a stranger's link.
         folder.item("copy0")->CopyFileTo(*folder.item("keys1"), CopyOf::whatStays);
         folder.item("folder1")->CreateTextFile()->Close();

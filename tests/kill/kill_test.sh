@@ -134,7 +134,7 @@ while ((landed < kills)); do
         'BEGIN { printf "%.6f", 0.001 + r / 1073741824 * m / 1000000 }')"
     kill -9 $process 2>/dev/null || true
     status=0
-    wait $other || fail "the program that was left alone said: $(cat "$root/out" "$root/other")"
+    wait $other 2>/dev/null || fail "the program that was left alone said: $(cat "$root/out" "$root/other")"
     wait $process 2>/dev/null || status=$?
     case $status in
     137) landed=$((landed + 1)) ;;

@@ -9,8 +9,10 @@
 
 namespace norvane {
 
-TemporaryFolder::TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "norvane-test-XXXXXX").string();
+TemporaryFolder::TemporaryFolder(const std::string &where) {
+    const auto parent =
+        where.empty() ? std::filesystem::temp_directory_path() : std::filesystem::path(where);
+    std::string pattern = (parent / "norvane-test-XXXXXX").string();
     path_ = std::string(mkdtemp(pattern.data())) + "/";
 }
 

@@ -13,10 +13,10 @@ namespace norvane {
 
 using Lines = std::vector<std::string>;
 
-/// A folder of its own for a test, gone with it.
+/// A folder of its own for a test, gone with it; in the folder `where`, or the system's for such.
 class TemporaryFolder {
   public:
-    TemporaryFolder();
+    explicit TemporaryFolder(const std::string &where = "");
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder &) = delete;
     TemporaryFolder &operator=(const TemporaryFolder &) = delete;

@@ -27,13 +27,18 @@ Qt::WindowFlags flagsOf(const Window &window) {
     return flags;
 }
 
-/// Sets the text of a label closer, within reason, until it is no wider than `room`.
+bool fits(const QLabel &label, int room) {
+    if (!label.wordWrap())
+        return label.fontMetrics().horizontalAdvance(label.text()) <= room;
+    const int emptyEnd = label.text().endsWith(u'\n') ? label.fontMetrics().lineSpacing() : 0;
+    return label.heightForWidth(room) - emptyEnd <= label.height();
+}
+
+/// Sets the text of a label closer, within reason, until it fits the width of `room`.
 void tighten(QLabel &label, int room) {
     constexpr int kTightest = 90; // percent
     QFont font = label.font();
-    for (int percent = 99; percent >= kTightest; --percent) {
-        if (label.fontMetrics().horizontalAdvance(label.text()) <= room)
-            return;
+    for (int percent = 99; percent >= kTightest && !fits(label, room); --percent) {
         font.setLetterSpacing(QFont::PercentageSpacing, percent);
         label.setFont(font);
     }
@@ -84,7 +89,7 @@ void WindowPeer::keepLabelsClear() {
     constexpr int kGap = 3;
     for (const Placed &placed : placed_) {
         auto *label = qobject_cast<QLabel *>(placed.widget);
-        if (label == nullptr || label->wordWrap())
+        if (label == nullptr)
             continue;
         int room = label->width();
         const QPoint start(label->x(), label->geometry().center().y());

@@ -27,6 +27,27 @@ class Actions : public Desk {
     void choose(const char *item) { at<QAction>(item)->trigger(); }
 };
 
+TEST_F(Actions, MenusAreTheProgramsOwnAndQuitEndsIt) {
+    std::string menus;
+    for (const QAction *top : peer()->findChild<QMenuBar *>()->actions()) {
+        menus += top->text().toStdString() + ":";
+        for (const QAction *item : top->menu()->actions()) {
+            menus += item->isSeparator() ? " -"
+                                         : " " + item->text().toStdString() + "=" +
+                                               item->shortcut().toString().toStdString();
+            menus += item->menuRole() == QAction::QuitRole          ? " (quit)"
+                     : item->menuRole() == QAction::PreferencesRole ? " (settings)"
+                                                                    : "";
+        }
+    }
+    EXPECT_EQ(menus, "&File: &Quit=Ctrl+Q (quit) About Norvane= (settings)"
+                     "&Edit: &Undo=Ctrl+Z - Cu&t=Ctrl+X &Copy=Ctrl+C &Paste=Ctrl+V &Delete= - "
+                     "Select &All=Ctrl+A");
+    QTimer::singleShot(0, peer(), [this] { choose("FileQuit"); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(preferences.has("com.bellwick.norvane.prefs"));
+}
+
 TEST_F(Actions, HelpBoxesSayTheirTexts) {
     for (const char *button : {"BevelButton2", "BevelButton3", "BevelButton8"}) {
         confirm();
@@ -128,6 +149,7 @@ TEST_F(Actions, AboutIsOneWindowAndOutlivesTheMainOne) {
     EXPECT_EQ(first->windowTitle(), "About Norvane");
     const auto *text = first->findChild<QWidget *>("Label1"); // whose last line is empty
     EXPECT_LE(text->heightForWidth(372) - text->fontMetrics().lineSpacing(), 141);
+    EXPECT_EQ(text->property("text").toString().left(28), "Norvane version 1.6\n\nThis ap");
     first->resize(700, 400);
     EXPECT_EQ(aboutWin::the().Width, 700);
     QPointer<QWidget> main = peer();

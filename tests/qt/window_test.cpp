@@ -319,6 +319,49 @@ TEST_F(MainWindow, OutlinesAreSeenInTheDark) {
         expectOutline(name, dark);
 }
 
+TEST_F(MainWindow, PicturesArrowAndBarAreDrawn) {
+    const auto pixel = [&](const char *name, int x, int y) {
+        return at(name)->grab().toImage().pixelColor(x, y);
+    };
+    const QImage drawn = QIcon(QStringLiteral(":/NORVANE_1281.png")).pixmap(128).toImage();
+    for (const int place : {40, 64, 90})
+        EXPECT_EQ(pixel("Canvas1", place, place), drawn.pixelColor(place, place));
+    const QColor ink = peer()->palette().color(QPalette::WindowText);
+    EXPECT_EQ(pixel("PopupArrow1", 6, 5), ink);
+    EXPECT_NE(pixel("PopupArrow1", 5, 7), ink);
+    window().PopupArrow1.Facing = PopupArrow::kDown;
+    EXPECT_EQ(pixel("PopupArrow1", 5, 6), ink);
+    EXPECT_NE(pixel("PopupArrow1", 7, 5), ink);
+    at("PopupArrow1")->setFocus();
+    EXPECT_NE(pixel("PopupArrow1", 5, 5), ink);
+    window().ProgressBar1.Value = 50;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return at("ProgressBar1")->property("value") == 50; }));
+    const QColor empty = pixel("ProgressBar1", 280, 10);
+    EXPECT_NE(pixel("ProgressBar1", 266, 10), empty);
+    EXPECT_EQ(pixel("ProgressBar1", 540, 10), empty);
+    EXPECT_EQ(pixel("ProgressBar1", 266, 4), pixel("ProgressBar1", 280, 4)); // above the slim bar
+    EXPECT_EQ(at<QLabel>("ProgressText")->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
+    EXPECT_EQ(at<QLabel>("Label6")->alignment(), Qt::AlignLeft | Qt::AlignTop);
+    EXPECT_EQ(at<QLineEdit>("timerText")->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
+}
+
+TEST_F(MainWindow, LabelsAreSetCloserBeforeTheirLinesBreak) {
+    struct : Window {
+        Label label;
+        void fill(int width, int height) { add(label, "Close", 0, 0, width, height); }
+    } narrow;
+    const QFontMetrics metrics = at("Label2")->fontMetrics();
+    narrow.label.Text = "a line of its own\rand another line\r";
+    narrow.label.multiline = true;
+    const int width =
+        metrics.size(0, QStringLiteral("a line of its own\nand another line")).width();
+    narrow.fill(width * 95 / 100, 2 * metrics.lineSpacing());
+    narrow.Show();
+    const auto *label = desktop.peerOf(narrow)->findChild<QLabel *>();
+    EXPECT_LE(label->heightForWidth(label->width()), 3 * metrics.lineSpacing());
+    EXPECT_GT(label->font().letterSpacing(), 90);
+}
+
 TEST_F(MainWindow, AControlOfAnUnknownKindIsAnError) {
     struct : Window {
         Control control;

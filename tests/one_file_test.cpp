@@ -134,29 +134,5 @@ TEST_F(OneFile, NothingIsSaidOfAFileThatCannotBeOpened) {
     EXPECT_EQ(window().fileName, "");
 }
 
-TEST_F(OneFile, AFailedSaveIsToldAndKeepsWhatWasThere) {
-    folder.write("show.scc", sccFile({line("00:00:01:00")}));
-    folder.write("taken/inside", "");
-    decode("show.scc", "taken");
-    EXPECT_EQ(messages(),
-              Lines{"This could not be finished: “" + folder.path("taken") + "” is a folder."});
-    EXPECT_EQ(folder.tree(), (Lines{"show.scc", "taken/", "taken/inside"}));
-}
-
-TEST_F(OneFile, ControlsKeepTheirWaysWhateverTheirActionsDo) {
-    int raised = 0;
-    window().RadioButton1.Value.changed = [&] {
-        ++raised;
-        throw IOException("no paper.");
-    };
-    desktop.click(window().RadioButton2);
-    EXPECT_FALSE(window().RadioButton1.Value);
-    desktop.click(window().RadioButton1);
-    desktop.click(window().RadioButton1);
-    EXPECT_FALSE(window().RadioButton2.Value);
-    EXPECT_EQ(raised, 2);
-    EXPECT_EQ(messages(), Lines(2, "This could not be finished: no paper."));
-}
-
 } // namespace
 } // namespace norvane

@@ -115,26 +115,6 @@ TEST_F(Preferences, AWatchThatWasOnRunsOneCycleAsDesigned) {
     EXPECT_TRUE(folder.has("watch/a.scc"));
 }
 
-TEST_F(Preferences, CutOffAtEveryLength) {
-    std::filesystem::create_directory(folder.path("watch"));
-    const std::string whole =
-        "false\nfalse\ntrue\nfalse\ntrue\n0.5\n" + folder.path("watch/\n/dést/\nfalse\n");
-    for (std::size_t length = 0; length < whole.size(); ++length) {
-        const std::string text = whole.substr(0, length);
-        Lines lines(9);
-        std::size_t start = 0;
-        for (std::size_t i = 0; i < lines.size() && start < length; ++i) {
-            lines[i] = text.substr(start, text.find('\n', start) - start);
-            start += lines[i].size() + 1;
-        }
-        const std::string options = lines[2] == "true" ? "P" : "LT";
-        const std::string clock = lines[4] == "true" ? "2" : "";
-        EXPECT_EQ(openOn(text), options + clock + " " + lines[5] + " " + lines[6] + " " + lines[7])
-            << length;
-    }
-    EXPECT_EQ(messages(), Lines{});
-}
-
 TEST_F(Preferences, AFileThatCannotBeWrittenIsToldOfAndStays) {
     window();
     preferences.write(kFile, "true\ntrue\n");

@@ -92,11 +92,10 @@ std::string differenceOfModes(std::string_view bytes) {
 
     static const TemporaryFolder folder;
     HeadlessDesktop desktop;
-    class Window1 window;
+    Window1 window;
     PlainRoad road{(options & 1U) != 0, (options & 2U) != 0, (options & 4U) != 0};
-    window.ParagraphBox.Value.changed = nullptr; // any three states, also those out of reach
-    window.LineBox.Value.changed = nullptr;
-    window.TimecodeBox.Value.changed = nullptr;
+    for (CheckBox *box : {&window.ParagraphBox, &window.TimecodeBox})
+        box->Value.changed = nullptr; // any states, also those out of reach
     window.RadioButton1.Value = road.unbuffered;
     window.TimecodeBox.Value = road.timecodeForm;
     window.ParagraphBox.Value = road.paragraphForm;
@@ -104,8 +103,8 @@ std::string differenceOfModes(std::string_view bytes) {
     window.destFolder = folder.path("out/");
 
     for (unsigned run = 0; run < 4; ++run) {
-        const unsigned mode =
-            (modes >> (2 * run)) & 3U; // one file, the same cancelled, batch, cycle
+        // One file, the same cancelled, batch, cycle.
+        const unsigned mode = (modes >> (2 * run)) & 3U;
         const bool oneFile = mode < 2;
         for (const char *name : {"in", "out"})
             std::filesystem::remove_all(folder.path(name));
@@ -117,19 +116,19 @@ std::string differenceOfModes(std::string_view bytes) {
         road.captions.clear();
         bool told = mode == 2;
         try {
-            for (const std::string name : {"a", "b"}) {
-                if (oneFile && name == "b")
-                    break;
-                if (!road.decode(name == "a" ? whole : part)) {
+            for (const auto &[name, text] : {std::pair("a.scc", whole), {"b.scc", part}}) {
+                if (!road.decode(text)) {
                     told = true;
                     break;
                 }
-                const std::string text = road.transcript(oneFile ? name : name + ".scc");
+                const std::string transcript = road.transcript(oneFile ? "a" : name);
                 if (mode != 1) {
-                    wanted.push_back(text);
+                    wanted.push_back(transcript);
                     road.captions.clear();
                     road.timecodes.clear();
                 }
+                if (oneFile)
+                    break;
             }
         } catch (const OutOfBoundsException &) {
             told = true;
@@ -159,15 +158,12 @@ std::string differenceOfModes(std::string_view bytes) {
         const bool saw = std::any_of(log.begin(), log.end(), [](const std::string &line) {
             return line.starts_with("message");
         });
-        for (const auto &[what, expected, found] :
-             {std::tuple("transcripts", wanted, got),
-              {"captions", road.captions, textsOf(window.captionArray2)},
-              {"timecodes", road.timecodes, textsOf(window.timeCodeArray)},
-              {"messages", Lines{told ? "told" : ""}, Lines{saw ? "told" : ""}}}) {
-            if (expected != found)
-                return "mode " + std::to_string(mode) + ", " + what + ": " +
-                       testing::PrintToString(found) + ", not " + testing::PrintToString(expected);
-        }
+        const std::tuple expected{wanted, road.captions, road.timecodes, told};
+        const std::tuple found{got, textsOf(window.captionArray2), textsOf(window.timeCodeArray),
+                               saw};
+        if (expected != found)
+            return "mode " + std::to_string(mode) + ": " + testing::PrintToString(found) +
+                   ", not " + testing::PrintToString(expected);
     }
     return "";
 }

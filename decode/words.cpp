@@ -30,8 +30,8 @@
 // - with a late bar, which others would fold.
 //
 // The same holds for the filler byte, wherever a word has it. The rest is letters: every
-// replacement is an even number of characters, so that the pairs of digits are still cut at the
-// bytes, and holds no digits, so that it comes through the letters as it is.
+// replacement is of even length, which leaves the pairs of digits cut at the bytes, and holds no
+// digits, so that it comes through the letters as it is.
 
 namespace norvane {
 

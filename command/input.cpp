@@ -23,8 +23,6 @@ Bytes readStandardInput() {
     Bytes bytes(kBlock);
     for (;;) {
         const ssize_t count = read(STDIN_FILENO, bytes.rest(), bytes.restSize());
-        if (count < 0 && errno == EINTR)
-            continue;
         if (count < 0)
             throw Problem{"cannot be read: " + std::generic_category().message(errno) + "."};
         if (count == 0)

@@ -127,17 +127,17 @@ std::optional<std::size_t> indexOf(std::string_view word, const Words &words) {
 /// Removes the kinds of a list from those that are wanted. Gives what is wrong with the list, or
 /// the empty text.
 std::string leaveOut(std::string_view list, FindingKinds &kinds) {
-    for (bool more = true; more;) {
+    for (;;) {
         const std::size_t comma = list.find(',');
         const std::string_view name = list.substr(0, comma);
         const auto kind = indexOf(name, kFindingNames);
         if (!kind)
             return "unknown kind '" + printable(name) + "'" + suggestion(name, kFindingNames, "");
         kinds.reset(*kind);
-        more = comma != std::string_view::npos;
-        list.remove_prefix(more ? comma + 1 : 0);
+        if (comma == std::string_view::npos)
+            return "";
+        list.remove_prefix(comma + 1);
     }
-    return "";
 }
 
 std::string usage() {

@@ -18,7 +18,7 @@ std::string lastCharacter(std::string_view text) {
 }
 
 std::string saidBy(const SccLine &line, const SccWord &word) {
-    return inQuotes(saidAround(line, word.at, word.at + word.digits.size()).text);
+    return inQuotes(SaidLine(line).around(word.at, word.at + word.digits.size()).text);
 }
 
 /// A code that takes a column on the screen parts words; when it is deleted, they stand together.

@@ -47,12 +47,13 @@ bool isSound(const SccLine &line, const Crossing &crossing) {
 /// Tells crossings, those in the same word of the language as one.
 void tellCrossings(const SccLine &line, const LineWalk &walk, Findings &findings) {
     const std::vector<Crossing> &crossings = walk.crossings();
+    const SaidLine saidLine(line);
     for (std::size_t i = 0, next = 0; i < crossings.size(); i = next) {
-        const SaidText said = saidAround(line, crossings[i].first, crossings[i].last);
+        const SaidText said = saidLine.around(crossings[i].first, crossings[i].last);
         std::string text;
         if (!said.text.empty())
-            text = inQuotes(said.text) + " becomes " +
-                   inQuotes(walk.entryOf(said.start, said.end)) + ": ";
+            text = startInQuotes(said.text) + " becomes " +
+                   startInQuotes(walk.entryOf(said.start, said.end)) + ": ";
         bool sound = true;
         for (next = i; next < crossings.size() && (next == i || crossings[next].first < said.end);
              ++next) {

@@ -53,10 +53,10 @@ void TimecodeCheck::look(const SccLine &line, Findings &findings) {
                              textOf(before_->timecode) + ": put the lines in order.");
         } else if (timecode.count() < end) {
             findings.add(line.number, FindingKind::overlap,
-                         "The " + counted(before_->words, "word") + " of " + place +
-                             " take until " + frameTimecode(end, timecode.dropFrame) + ", " +
+                         "Sending " + place + " takes until " +
+                             frameTimecode(end, timecode.dropFrame) + ", " +
                              counted(end - timecode.count(), "frame") +
-                             " more than there are: move one of the lines.");
+                             " too long: move one of the lines.");
         }
     }
     before_ = now;

@@ -7,7 +7,8 @@
 
 namespace norvane {
 
-LineWalk::LineWalk(const SccLine &line) : line_(line) {
+LineWalk::LineWalk(const SccLine &line)
+    : line_(line), bytesOf_(line.words.size()), swallowedOf_(line.words.size()) {
     TracedText text(line.data.hexText);
     plain::replaceCodeWords(text);
     findCrossings(text);
@@ -19,6 +20,8 @@ LineWalk::LineWalk(const SccLine &line) : line_(line) {
     for (std::size_t i = 0; i < entry_->size(); ++i) {
         const TracedText::Place place = text.places()[i];
         bytes_.push_back({(*entry_)[i], place < text.sourceSize(), text.sourcesOf(place)});
+        for (const std::size_t source : bytes_.back().sources)
+            bytesOf_[wordAt(source)].push_back(i);
     }
 }
 
@@ -51,44 +54,49 @@ void LineWalk::findCrossings(const TracedText &text) {
             crossing.last = place;
         }
         const bool inCode = !crossing.parts.empty() && line_.words[crossing.parts[0].word].isCode;
-        if (crossing.parts.size() > 1 || (inCode && !inStep))
-            crossings_.push_back(crossing);
+        if (crossing.parts.size() <= 1 && (!inCode || inStep))
+            continue;
+        crossings_.push_back(crossing);
+        for (const Crossing::Part &part : crossing.parts)
+            swallowedOf_[part.word] += part.digits;
     }
 }
 
+std::vector<std::size_t> LineWalk::bytesOf(std::size_t first, std::size_t count) const {
+    std::vector<std::size_t> bytes;
+    for (std::size_t word = first; word < first + count; ++word)
+        bytes.insert(bytes.end(), bytesOf_[word].begin(), bytesOf_[word].end());
+    std::sort(bytes.begin(), bytes.end());
+    bytes.erase(std::unique(bytes.begin(), bytes.end()), bytes.end());
+    return bytes;
+}
+
 WordFate LineWalk::fateOf(std::size_t first, std::size_t count) const {
-    const std::size_t start = line_.words[first].at;
-    const SccWord &last = line_.words[first + count - 1];
-    const std::size_t end = last.at + last.digits.size();
     WordFate fate;
-    fate.isBlank = true;
-    for (const Byte &byte : bytes_) {
-        const auto in = std::lower_bound(byte.sources.begin(), byte.sources.end(), start);
-        if (in == byte.sources.end() || *in >= end)
-            continue;
-        fate.isShared = true;
+    const std::vector<std::size_t> bytes = bytesOf(first, count);
+    fate.isShared = !bytes.empty();
+    fate.isBlank = fate.isShared;
+    for (const std::size_t i : bytes) {
+        const Byte &byte = bytes_[i];
         fate.isBlank = fate.isBlank && byte.text == ' ';
-        if (byte.sources.front() >= start)
+        if (byte.sources.front() >= line_.words[first].at)
             fate.text += byte.text;
         if (byte.untouched)
             fate.kept += byte.text;
     }
-    fate.isBlank = fate.isBlank && fate.isShared;
-    for (const Crossing &crossing : crossings_) {
-        for (const Crossing::Part &part : crossing.parts) {
-            if (part.word >= first && part.word < first + count)
-                fate.swallowed += part.digits;
-        }
-    }
+    for (std::size_t word = first; word < first + count; ++word)
+        fate.swallowed += swallowedOf_[word];
     return fate;
 }
 
 std::string LineWalk::entryOf(std::size_t start, std::size_t end) const {
+    const std::size_t first = wordAt(start);
     std::string text;
-    for (const Byte &byte : bytes_) {
-        const auto in = std::lower_bound(byte.sources.begin(), byte.sources.end(), start);
-        if (in != byte.sources.end() && *in < end)
-            text += byte.text;
+    for (const std::size_t i : bytesOf(first, wordAt(end - 1) - first + 1)) {
+        const std::vector<std::size_t> &sources = bytes_[i].sources;
+        const auto in = std::lower_bound(sources.begin(), sources.end(), start);
+        if (in != sources.end() && *in < end)
+            text += bytes_[i].text;
     }
     return text;
 }

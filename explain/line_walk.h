@@ -55,12 +55,15 @@ class LineWalk {
     };
 
     void findCrossings(const TracedText &text);
+    std::vector<std::size_t> bytesOf(std::size_t first, std::size_t count) const;
     std::size_t wordAt(std::size_t place) const;
 
     const SccLine &line_;
     std::optional<std::string> entry_;
     std::vector<Byte> bytes_;
+    std::vector<std::vector<std::size_t>> bytesOf_; // by word: those of bytes_ that come from it
     std::vector<Crossing> crossings_;
+    std::vector<std::string> swallowedOf_; // by word
 };
 
 } // namespace norvane

@@ -2,6 +2,8 @@
 
 #include "framework/text/text.h"
 
+#include <algorithm>
+
 namespace norvane {
 
 namespace {
@@ -10,9 +12,10 @@ bool isGap(const SaidText &character) {
     return character.text.empty() || character.text == " ";
 }
 
-/// The characters of a line, and an empty one for each code without any.
-std::vector<SaidText> charactersOf(const SccLine &line) {
-    std::vector<SaidText> characters;
+} // namespace
+
+SaidLine::SaidLine(const SccLine &line) {
+    std::vector<SaidText> &characters = characters_;
     for (const SccWord &word : line.words) {
         const std::size_t end = word.at + word.digits.size();
         if (word.meaning.kind == CodeKind::extended && !characters.empty() &&
@@ -32,16 +35,14 @@ std::vector<SaidText> charactersOf(const SccLine &line) {
             characters.push_back({word.meaning.shown, word.at, end});
         }
     }
-    return characters;
 }
 
-} // namespace
-
-SaidText saidAround(const SccLine &line, std::size_t first, std::size_t last) {
-    const std::vector<SaidText> characters = charactersOf(line);
-    std::size_t from = 0;
-    while (from < characters.size() && characters[from].end <= first)
-        ++from;
+SaidText SaidLine::around(std::size_t first, std::size_t last) const {
+    const std::vector<SaidText> &characters = characters_;
+    auto from = static_cast<std::size_t>(
+        std::partition_point(characters.begin(), characters.end(),
+                             [first](const SaidText &one) { return one.end <= first; }) -
+        characters.begin());
     std::size_t to = from;
     while (to < characters.size() && characters[to].start <= last)
         ++to;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <set>
 
 namespace norvane {
 
@@ -67,14 +68,12 @@ std::vector<TracedText::Place> TracedText::sourcesOf(Place place) const {
     const auto change = std::upper_bound(
         changes_.begin(), changes_.end(), place,
         [](Place wanted, const Change &made) { return wanted < made.put + made.size; });
-    std::vector<Place> sources;
+    std::set<Place> sources;
     for (const Place taken : change->taken) {
         const std::vector<Place> further = sourcesOf(taken);
-        sources.insert(sources.end(), further.begin(), further.end());
+        sources.insert(further.begin(), further.end());
     }
-    std::sort(sources.begin(), sources.end());
-    sources.erase(std::unique(sources.begin(), sources.end()), sources.end());
-    return sources;
+    return {sources.begin(), sources.end()};
 }
 
 } // namespace norvane

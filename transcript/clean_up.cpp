@@ -5,9 +5,6 @@
 #include "framework/text/text.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <cstdint>
 #include <cstring>
 
 namespace norvane {
@@ -69,39 +66,11 @@ std::size_t hyphensTaken(std::string_view text) {
         std::count_if(kAccentPairs.begin(), kAccentPairs.end(), isOfRow));
 }
 
-/// Where some pass may do something: not 0 for such a character, or for each such of a block of
-/// them.
-template <class Characters>
-auto mayChange(Characters c, Characters next) {
-    return ((c == ' ') & (next == ' ')) | (c == '|') | (c == '-') | (c == '\\');
-}
-
 /// The first place from `start` on where a pass may do something; the end of the text when nowhere.
 std::size_t nextChange(std::string_view text, std::size_t start) {
-    using Block = char __attribute__((vector_size(16))); // compared all at once
-    std::size_t at = start;
-    for (; at + sizeof(Block) < text.size(); at += sizeof(Block)) {
-        Block block;
-        Block next;
-        std::memcpy(&block, text.data() + at, sizeof block);
-        std::memcpy(&next, text.data() + at + 1, sizeof next);
-        const auto found = mayChange(block, next);
-        std::array<std::uint64_t, 2> halves{};
-        std::memcpy(halves.data(), &found, sizeof found);
-        if ((halves[0] | halves[1]) == 0)
-            continue;
-        if constexpr (std::endian::native == std::endian::little) {
-            constexpr std::size_t kBits = 8;
-            return at +
-                   (halves[0] != 0
-                        ? static_cast<std::size_t>(std::countr_zero(halves[0])) / kBits
-                        : kBits + static_cast<std::size_t>(std::countr_zero(halves[1])) / kBits);
-        }
-        break;
-    }
-    while (at < text.size() && mayChange(text[at], at + 1 < text.size() ? text[at + 1] : '\0') == 0)
-        ++at;
-    return at;
+    return findMarked(text, start, [](auto c, auto behind) {
+        return ((c == ' ') & (behind == ' ')) | (c == '|') | (c == '-') | (c == '\\');
+    });
 }
 
 } // namespace

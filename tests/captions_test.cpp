@@ -1,11 +1,17 @@
 #include "decode/caption.h"
+#include "decode/crossing_keys.h"
 #include "decode/letters.h"
 #include "decode/replacement_chain.h"
+#include "decode/rows_of_code.h"
+#include "decode/words.h"
 #include "framework/text/text.h"
 #include "tests/support/generated.h"
 #include "tests/support/plain_walk.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace norvane {
 namespace {
@@ -100,13 +106,16 @@ TEST(Captions, ChainLeavesMarksCharactersAndDigits) {
         EXPECT_EQ(replaceCodeWords(row.hexText), row.result) << row.hexText;
 }
 
-// The one test of speed's price: nothing may tell the product from the plain walk.
+// Nothing may tell the product from the plain walk, whichever of its two roads a line takes.
 TEST(Captions, AreThoseOfThePlainWalkOnGeneratedText) {
     const char *more = std::getenv("NORVANE_GENERATED_LINES");
     const int lines = more == nullptr ? 20'000 : std::stoi(more);
     GeneratedHexText generated(1);
+    int wordByWord = 0;
     for (int line = 0; line < lines; ++line) {
         const std::string hexText = generated.next();
+        std::string ignored;
+        wordByWord += appendCaptionByWords(ignored, hexText) ? 1 : 0;
         ASSERT_EQ(replaceCodeWords(hexText), plain::replaceCodeWords(hexText)) << hexText;
         std::string expected;
         try {
@@ -117,23 +126,40 @@ TEST(Captions, AreThoseOfThePlainWalkOnGeneratedText) {
         }
         ASSERT_EQ(caption(hexText), expected) << hexText;
     }
+    if (more == nullptr) {
+        EXPECT_EQ(wordByWord, 11473); // all that can be
+    }
 }
 
-// Words of all values beside neighbours that some keys reach across to.
-TEST(Captions, AreThoseOfThePlainWalkOnWordsOfAllValues) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    const char *neighbours[][2] = {
-        {"", ""}, {"c1e9 ", " 4580"}, {"91b9 ", " 3280"}, {"c8b9 ", " 2520"}};
-    for (unsigned word = 0; word < 0x10000; word += 7) { // 7 is prime to all digits' weights
-        std::string hex;
-        for (unsigned shift = 16; shift > 0; shift -= 4)
-            hex += kDigits[(word >> (shift - 4)) & 15U];
-        const auto &around = neighbours[word % 4];
-        const std::string hexText = around[0] + hex + around[1];
-        if (hex == "13ba" || hex == "133b" || hex == "13b9" || hex == "1329" || hex == "132a")
-            continue;
-        ASSERT_EQ(caption(hexText), plain::caption(hexText)) << hexText;
+// Behind each beginning of a key, each word: what is taken word by word is what the rows give, to
+// which a second blank leaves a line.
+TEST(Captions, OfWordsAreThoseOfTheRowsBehindEachBeginningOfAKey) {
+    const auto hex = [](unsigned word) {
+        char digits[5];
+        std::snprintf(digits, sizeof digits, "%04x", word & 0xFFFFU);
+        return std::string(digits);
+    };
+    std::map<unsigned, std::string> beginnings; // by state, a word that ends in one
+    for (unsigned word = 0; word < 0x10000; ++word) {
+        const auto high = kCrossingKeys.byte[CrossingKeys::kNothing][word >> 8U];
+        if (kRowsOfCode.first[word] == 0)
+            beginnings.try_emplace(kCrossingKeys.byte[high][word & 0xFFU], hex(word));
     }
+    beginnings.erase(CrossingKeys::kMatch);
+    EXPECT_EQ(beginnings.size(), 33U);
+    int taken = 0;
+    for (const auto &[state, beginning] : beginnings) {
+        for (unsigned word = 0; word < 0x10000; ++word) {
+            const char *behind[] = {"", " 4580", " 3280", " 2520", " 2080"};
+            const std::string hexText = beginning + " " + hex(word) + behind[(word + state) % 5];
+            std::string captions;
+            if (!appendCaptionByWords(captions, hexText))
+                continue;
+            ++taken;
+            ASSERT_EQ(captions, caption(" " + hexText)) << hexText;
+        }
+    }
+    EXPECT_EQ(taken, 1'699'679);
 }
 
 TEST(Captions, ALongLineIsDecodedWhole) {

@@ -1,9 +1,11 @@
 #include "decode/accent_pairs.h"
 #include "decode/caption.h"
+#include "decode/chain_table.h"
 #include "decode/letters.h"
 #include "framework/text/text.h"
 
 #include <bit>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -107,6 +109,21 @@ TEST(Tables, SpecialAndExtendedCharactersAreThoseOfTheStandard) {
     for (const auto &[code, doubled] :
          {std::pair("1329", "{{"), {"132a", "}}"}, {"13b9", "åå"}, {"13ba", "ØØ"}, {"133b", "øø"}})
         EXPECT_EQ(caption(std::string(code) + code), doubled);
+}
+
+// Each row in its place: no result tells all of them apart.
+TEST(Tables, ChainIsThatOfItsFingerprint) {
+    std::uint64_t print = 0xCBF29CE484222325U; // FNV-1a
+    const auto add = [&print](std::string_view text) {
+        for (const char c : text)
+            print = (print ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+        print = (print ^ 0xFFU) * 0x100000001B3U;
+    };
+    for (const TableRow &row : kReplacementChain) {
+        add(row.key);
+        add(row.with);
+    }
+    EXPECT_EQ(print, 8605344383981472088U);
 }
 
 TEST(Tables, AccentPairs) {

@@ -25,6 +25,7 @@ TEST(CleanUp, OfEntries) {
     const std::vector<std::pair<std::string, std::string>> rows = {
         {"|", ""}, // only the last pass takes a bar alone
         {"||", "|"},
+        {"|| ", ""},
         {"| ", ""}, // one blank is emptied at once
         {"*|", "*"},
         {" ", ""},

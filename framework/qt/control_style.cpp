@@ -38,9 +38,8 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
     const bool isMark = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
     const bool isField = element == PE_PanelLineEdit && !(option->state & State_HasFocus);
     // A style that finds a field too low for its border leaves it no room.
-    const bool isBare =
-        isField && QProxyStyle::subElementRect(SE_LineEditContents, option, widget).height() ==
-                       option->rect.height();
+    const bool isBare = isField && subElementRect(SE_LineEditContents, option, widget).height() ==
+                                       option->rect.height();
     if ((isMark || isField) && (isDark(*option) || isBare))
         drawOutline(option->rect & widget->rect(), *option, *painter,
                     element == PE_IndicatorRadioButton);
@@ -59,16 +58,6 @@ void ControlStyle::drawControl(ControlElement element, const QStyleOption *optio
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
-}
-
-QRect ControlStyle::subElementRect(SubElement element, const QStyleOption *option,
-                                   const QWidget *widget) const {
-    QRect place = QProxyStyle::subElementRect(element, option, widget);
-    if (element == SE_LineEditContents) { // all of the height within the border
-        place.setTop(option->rect.top() + 1);
-        place.setBottom(option->rect.bottom() - 1);
-    }
-    return place;
 }
 
 int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,

@@ -19,8 +19,6 @@ class ControlStyle : public QProxyStyle {
                        const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
-    QRect subElementRect(SubElement element, const QStyleOption *option,
-                         const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
 

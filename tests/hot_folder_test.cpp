@@ -133,19 +133,6 @@ TEST_F(HotFolder, TheWatchFolderMayBeTheDestination) {
     EXPECT_FALSE(folder.has("watch/myscc.txt"));
 }
 
-TEST_F(HotFolder, NamesOfAllKinds) {
-    const Lines names{" a b", "a\nb", "é🎬", "\xff\xfe", "-rf *"};
-    for (const std::string &name : names)
-        input(name + ".scc", {hiLine("00:00:01:00")});
-    EXPECT_EQ(watch(), Lines{});
-    for (const std::string &name : names) {
-        EXPECT_EQ(folder.read("dest/" + name + ".txt"),
-                  hiTranscript(name + ".scc", {"00:00:01.33"}));
-        EXPECT_TRUE(folder.has("dest/scc files/" + name + ".scc"));
-    }
-    EXPECT_TRUE(std::filesystem::is_empty(folder.path("watch")));
-}
-
 TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
     const std::string path = folder.path("watch/a.scc");
     const std::pair<std::function<void()>, std::string> rows[] = {

@@ -31,11 +31,12 @@ void adviseOnGluing(const SccLine &line, std::size_t code, std::vector<std::stri
     const SccWord &before = line.words[code - 1];
     const SccWord &after = line.words[behind];
     if (isCharacters(before.meaning) && !before.meaning.shown.ends_with(' ') &&
-        isCharacters(after.meaning) && !after.meaning.shown.starts_with(' '))
+        isCharacters(after.meaning) && !after.meaning.shown.starts_with(' ')) {
         advice.push_back(
             std::string(line.words[code].digits) + " takes a column, which parts " +
             saidBy(line, before) + " and " + saidBy(line, after) +
             " on the screen, but the transcript has nothing for it: put a blank between them.");
+    }
 }
 
 } // namespace
@@ -54,10 +55,10 @@ void adviseOnEntry(const SccLine &line, const LineWalk &walk, std::vector<std::s
         } else if (word.meaning.kind == CodeKind::extended && stands && i > 0 &&
                    line.words[i - 1].meaning.kind == CodeKind::text) {
             const std::string plain = lastCharacter(line.words[i - 1].meaning.shown);
-            advice.push_back("“" + word.meaning.shown + "” takes the place of the “" + plain +
-                             "” before it, which is for old decoders; the transcript has both: "
-                             "take “" +
-                             plain + "” out.");
+            std::string text = "“" + word.meaning.shown + "” takes the place of the “";
+            text.append(plain).append("” before it, which is for old decoders; the transcript has "
+                                      "both: take “");
+            advice.push_back(text.append(plain).append("” out."));
         } else if (word.meaning.kind == CodeKind::midRow && !word.repeats && !stands) {
             adviseOnGluing(line, i, advice);
         }

@@ -29,22 +29,24 @@ void lookAtServices(const SccLine &line, Findings &findings) {
                           [&service](const SccWord &word) { return word.service == service; });
         const std::string belong =
             counted(words, "word") + (words == 1 ? " belongs to " : " belong to ") + service;
-        if (service.ends_with('2') || service.ends_with('4'))
+        if (service.ends_with('2') || service.ends_with('4')) {
             findings.add(line.number, FindingKind::channel,
                          belong + ", a second channel, whose codes stay as digits: ask for a file "
                                   "of the first channel alone.");
-        else if (service.starts_with('T'))
+        } else if (service.starts_with('T')) {
             findings.add(line.number, FindingKind::textMode,
                          belong + ", the text mode, which is beside the captions: ask for a file "
                                   "of captions alone.");
+        }
     }
     const auto otherField =
         wordsThat(line, [](const SccWord &word) { return word.meaning.secondField; });
-    if (!otherField.empty())
+    if (!otherField.empty()) {
         findings.add(line.number, FindingKind::field,
                      shortList(otherField) +
                          ": of field 2, while an SCC file is for field 1. Ask for a file of field "
                          "1 alone.");
+    }
 }
 
 } // namespace
@@ -71,6 +73,7 @@ void CodeCheck::look(const SccLine &line, Findings &findings) {
     const auto malformed = wordsThat(line, [](const SccWord &word) { return !word.isCode; });
     if (!malformed.empty()) {
         std::vector<std::string> texts;
+        texts.reserve(malformed.size());
         for (const std::string &word : malformed)
             texts.push_back(startInQuotes(word));
         findings.add(line.number, FindingKind::word,
@@ -81,10 +84,11 @@ void CodeCheck::look(const SccLine &line, Findings &findings) {
     const auto unknown = wordsThat(line, [](const SccWord &word) {
         return word.isCode && word.meaning.kind == CodeKind::none;
     });
-    if (!unknown.empty())
+    if (!unknown.empty()) {
         findings.add(line.number, FindingKind::code,
                      shortList(unknown) + (unknown.size() == 1 ? ": no code" : ": no codes") +
                          " of CEA-608. Correct or delete.");
+    }
     lookAtServices(line, findings);
     lookAtSingles(line, findings);
 }
@@ -125,18 +129,20 @@ void CodeCheck::lookAtSingles(const SccLine &line, Findings &findings) {
 }
 
 void CodeCheck::tellSingles(Findings &findings) {
-    if (isDoubled_ && !singles_.empty())
+    if (isDoubled_ && !singles_.empty()) {
         findings.add(singlesLine_, FindingKind::single,
                      shortList(singles_) +
                          ": sent once, while the file sends its codes twice. Correct the line.");
+    }
     singles_.clear();
 }
 
 void ColumnCheck::endRow(Row &row, std::size_t line, Findings &findings) {
-    if (row.widest > kColumns)
+    if (row.widest > kColumns) {
         findings.add(line, FindingKind::columns,
                      "A row of text ends in column " + std::to_string(row.widest) +
                          ", while a screen has 32: break the row.");
+    }
     row.widest = 0;
 }
 

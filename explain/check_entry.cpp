@@ -76,11 +76,12 @@ void checkEntry(const SccLine &line, const LineWalk &walk, Findings &findings) {
         const SccWord &word = line.words[i];
         if (isNarrow(word)) {
             inStep = !inStep;
-            if (!inStep && i + 1 < line.words.size() && !isNarrow(line.words[i + 1]))
+            if (!inStep && i + 1 < line.words.size() && !isNarrow(line.words[i + 1])) {
                 findings.add(line.number, FindingKind::altered,
                              std::string(word.digits) + ", " + word.meaning.name +
                                  ", has no blank in the transcript, and what follows is read out "
                                  "of step. The file is sound: correct the transcript.");
+            }
             continue;
         }
         inStep = inStep && word.isCode;
@@ -91,10 +92,11 @@ void checkEntry(const SccLine &line, const LineWalk &walk, Findings &findings) {
             addOnce(kept, std::string(word.digits) + " (" + word.meaning.name +
                               "), which stays as " + inQuotes(fate.text));
     }
-    if (!kept.empty())
+    if (!kept.empty()) {
         findings.add(line.number, FindingKind::digits,
                      "The program does not know " + shortList(kept) +
                          ". The file is sound: correct the transcript.");
+    }
 }
 
 } // namespace norvane

@@ -38,11 +38,12 @@ std::string headOf(const SccLine &line, const std::optional<std::size_t> &shownA
         head.append(", ").append(line.mode);
     if (shownAt) {
         head += ", shown at +" + std::to_string(*shownAt);
-        if (line.timecode)
+        if (line.timecode) {
             head += " (" +
                     frameTimecode(line.timecode->count() + static_cast<long>(*shownAt),
                                   line.timecode->dropFrame) +
                     ")";
+        }
     }
     return head;
 }

@@ -6,7 +6,7 @@ namespace norvane {
 
 namespace {
 
-constexpr long kFramesPerMinute = 30 * 60;
+constexpr long kFramesPerMinute = 30L * 60;
 constexpr long kDroppedPerMinute = 2;
 constexpr long kMinutesPerDrop = 10; // in which one minute drops nothing
 

@@ -31,10 +31,11 @@ TEST_F(Shell, MenusAndFileTypes) {
     for (const MenuItem &menu : MenuBar1::the().menus)
         add(menu);
     for (const auto *types : {&FileTypes1::pAllFileTypes, &scctypes::pAllFileTypes}) {
-        for (const FileType *type : *types)
+        for (const FileType *type : *types) {
             text += type->Name + ", " + type->Extensions + ", " + type->MacType + ", " +
                     type->MacCreator + ", " + type->MimeType + ", " + type->ConformsTo + ", " +
                     type->UTI + (type->Imported ? ", imported\n" : "\n");
+        }
     }
     EXPECT_EQ(text, scene("menus"));
     MenuItem &about = MenuBar1::the().menus[0].items[1];

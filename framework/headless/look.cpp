@@ -40,11 +40,12 @@ std::string kindOf(const Control &control) {
         return "RadioButton" + inQuotes(button->Caption);
     if (const auto *field = dynamic_cast<const TextField *>(&control))
         return "TextField" + traits({{field->alignment == Alignment::centred, "centred"}});
-    if (const auto *label = dynamic_cast<const Label *>(&control))
+    if (const auto *label = dynamic_cast<const Label *>(&control)) {
         return "Label" + numbers({label->TextSize}) +
                traits({{label->grey, "grey"},
                        {label->multiline, "multiline"},
                        {label->alignment == Alignment::centred, "centred"}});
+    }
     if (const auto *canvas = dynamic_cast<const Canvas *>(&control))
         return "Canvas " + canvas->Backdrop;
     return dynamic_cast<const ProgressBar *>(&control)  ? "ProgressBar"

@@ -34,8 +34,8 @@ std::string GeneratedHexText::word(bool ordinary) {
     constexpr std::string_view kOddities[] = {"|",    "||",   "| |",  "é",    "♪",   "\xFF", "\xC3",
                                               "\0"sv, "*",    "xyz",  "  ",   "80",  "8",    "",
                                               "9420", "94ae", "97a3", "****", "942c"};
-    const std::string key(kReplacementChain.at(1 + below(580)).key);
-    const std::string oddity(kOddities[below(std::size(kOddities))]);
+    std::string key(kReplacementChain.at(1 + below(580)).key);
+    std::string oddity(kOddities[below(std::size(kOddities))]);
     const unsigned cut = below(static_cast<unsigned>(key.size()));
     switch (below(ordinary ? 12 : 18)) {
     case 0:

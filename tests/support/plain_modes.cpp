@@ -39,10 +39,11 @@ struct PlainRoad {
             if (!found || fields.size() < 2)
                 return false;
             std::string timecode(fields[0]);
-            if (unbuffered)
+            if (unbuffered) {
                 timecode = plain::returnTimecode(
                     Val(timecodeToSecondsSCC(ReplaceAll(timecode, ";", ":"))) +
                     static_cast<double>(Len(fields[1])) / 5.0 / 30.0);
+            }
             timecodes.push_back(timecode);
             captions.push_back(plain::caption(fields[1]));
         }

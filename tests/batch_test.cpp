@@ -40,8 +40,7 @@ TEST_F(Batch, NothingToDecodeLeavesTheBarInView) {
         {HeadlessDesktop::cancel(), {"No folder selected."}},
         {folder.item("in"), {}},
         {folder.item("file.scc"), {}},
-        {folder.item("gone"), {}},
-    };
+        {folder.item("gone"), {}}};
     for (const auto &[chosen, told] : rows) {
         window().ProgressBar1.Visible = false;
         window().captionArray2.Append("of an earlier run");
@@ -50,21 +49,6 @@ TEST_F(Batch, NothingToDecodeLeavesTheBarInView) {
         EXPECT_EQ(messages(), told);
         EXPECT_TRUE(window().ProgressBar1.Visible && window().captionArray2.empty());
     }
-}
-
-TEST_F(Batch, ABadFileEndsTheRunAndItsTimecodesMeetTheNext) {
-    folder.write("in/a.scc", sccFile({hiLine("00:00:01:00")}));
-    folder.write("in/b.scc", sccFile({hiLine("00:00:02:00"), "bad"}));
-    folder.write("in/c.scc", sccFile({hiLine("00:00:03:00"), hiLine("00:00:04:00")}));
-    run("in", {"a.txt"});
-    EXPECT_EQ(messages(), Lines{"There does not appear to be any timecode in this file."});
-    EXPECT_EQ(folder.read("a.txt"), hiTranscript("a.scc", {"00:00:01.33"}));
-    EXPECT_FALSE(window().ProgressBar1.Visible);
-
-    std::filesystem::remove(folder.path("in/b.scc"));
-    run("in", {"a.txt", "c.txt"});
-    EXPECT_EQ(folder.read("a.txt"), hiTranscript("a.scc", {"00:00:02.33"}));
-    EXPECT_EQ(folder.read("c.txt"), hiTranscript("c.scc", {"00:00:03.33", "00:00:04.33"}));
 }
 
 TEST_F(Batch, AFileThatCannotBeOpenedIsOfferedEmptyAndEndsTheRun) {

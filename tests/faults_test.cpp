@@ -131,8 +131,7 @@ const Mode kModes[] = {
          Window1::the().Close();
      },
      [](const Day &day) { return day.holds(kPreferences, day.settings("3")); },
-     [](const Day &day) { return day.holds(kPreferences, day.kDesigned); }},
-};
+     [](const Day &day) { return day.holds(kPreferences, day.kDesigned); }}};
 
 class Faults : public testing::TestWithParam<Mode> {
   protected:

@@ -110,9 +110,6 @@ TEST_F(HotFolder, ABadFileHoldsUpThoseBehindItAndItsTimecodesPileUp) {
     EXPECT_EQ(seen(), scene("cycle"));
     EXPECT_EQ(folder.read("dest/c.txt"),
               hiTranscript("c.scc", {"00:00:02.33", "00:00:02.33", "00:00:02.33", "03:00:00.33"}));
-    input("d.scc", {hiLine("00:00:07:00")});
-    EXPECT_EQ(wait(), Lines{});
-    EXPECT_EQ(folder.read("dest/d.txt"), hiTranscript("d.scc", {"00:00:07.33"}));
 }
 
 TEST_F(HotFolder, TheWatchFolderMayBeTheDestination) {
@@ -124,13 +121,6 @@ TEST_F(HotFolder, TheWatchFolderMayBeTheDestination) {
                                     "watch/scc files/show.scc", "watch/show.txt"}));
     EXPECT_EQ(wait(), Lines{});
     EXPECT_TRUE(folder.has("watch/scc files/show.txt"));
-    // A transcript whose own name matches is decoded in its turn, and makes way for its own.
-    input("myscc.scc", {hiLine("00:00:01:00")});
-    EXPECT_EQ(wait(), Lines{});
-    EXPECT_EQ(wait(), Lines{});
-    EXPECT_EQ(folder.read("watch/myscc_1.txt"),
-              "Transcripts of myscc.txt\n\n[[00:00:01:00]]\tHi\n\n\n");
-    EXPECT_FALSE(folder.has("watch/myscc.txt"));
 }
 
 TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
@@ -141,8 +131,7 @@ TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
         {[&] { mkfifo(path.c_str(), 0600); }, "” is not a regular file."},
         {[&] { std::filesystem::create_symlink("/dev/zero", path); }, "” is not a regular file."},
         {[&] { std::filesystem::create_symlink("none", path); },
-         "” cannot be opened: No such file or directory."},
-    };
+         "” cannot be opened: No such file or directory."}};
     EXPECT_EQ(watch(), Lines{});
     for (const auto &[make, problem] : rows) {
         make();
@@ -166,18 +155,6 @@ TEST_F(HotFolder, WhatIsNoReadableFileEndsTheCycleAndTheTicks) {
     EXPECT_FALSE(std::filesystem::is_symlink(path));
     EXPECT_TRUE(folder.has("kept.scc"));
     EXPECT_FALSE(std::filesystem::is_symlink(folder.path("dest/scc files/a.scc")));
-}
-
-TEST_F(HotFolder, PermissionsThatAreMissing) {
-    EXPECT_EQ(watch(), Lines{});
-    input("show.scc", {hiLine("00:00:01:00")});
-    for (const auto &[name, mode] :
-         {std::pair("", 0755), {"watch", 0777}, {"dest", 0555}, {"dest/scc files", 0777}})
-        chmod(folder.path(name).c_str(), static_cast<mode_t>(mode));
-    const OrdinaryUser user;
-    EXPECT_EQ(cycle(), Lines{failed("“" + folder.path("dest/show.txt") +
-                                    "” cannot be created: Permission denied.")});
-    EXPECT_TRUE(folder.has("watch/show.scc"));
 }
 
 TEST_F(HotFolder, LinksThatOthersPlanted) {
@@ -212,7 +189,6 @@ TEST_F(HotFolder, LinksThatOthersPlanted) {
         EXPECT_EQ(folder.read(std::string("home/") + name), "the user's own");
     EXPECT_EQ(folder.read("dest/scc files/keys"), "a stranger's");
     EXPECT_EQ(folder.read("dest/show_1.txt"), hiTranscript("show.scc", {"00:00:01.33"}));
-    EXPECT_EQ(folder.read("dest/b.txt"), hiTranscript("b.scc", {}));
 }
 
 TEST_F(HotFolder, AnotherProgramsCycleIsLeftAlone) {

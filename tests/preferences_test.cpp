@@ -1,4 +1,3 @@
-#include "tests/support/faults.h"
 #include "tests/support/scenario.h"
 
 #include <array>
@@ -50,8 +49,7 @@ TEST_F(Preferences, EveryFileGivesADefinedState) {
         {"true\ntrue\nfalse\ntrue\ntrue\n1\n/é🎬/\n/\xff/\nfalse\nten\ntrue\nx",
          "LT2 1 /é🎬/ /\xff/"},
         {"true\ntrue\ntrue\nyes\n true\nabc\n\n\n1", "P abc  "},
-        {"false\ntrue\nfalse\ntrue", "LT1   "},
-    };
+        {"false\ntrue\nfalse\ntrue", "LT1   "}};
     for (const auto &[text, expected] : rows) {
         EXPECT_EQ(openOn(text), expected) << text;
         EXPECT_FALSE(window().Timer1.due());
@@ -117,16 +115,6 @@ TEST_F(Preferences, AWatchThatWasOnRunsOneCycleAsDesigned) {
 
 TEST_F(Preferences, AFileThatCannotBeWrittenIsToldOfAndStays) {
     window();
-    preferences.write(kFile, "true\ntrue\n");
-    {
-        const FullDisk full(10);
-        closeWindow();
-    }
-    EXPECT_EQ(messages(), Lines{"This could not be finished: “" + preferences.path(kFile) +
-                                "” cannot be written: File too large."});
-    EXPECT_EQ(preferences.read(kFile), "true\ntrue\n");
-
-    std::filesystem::remove(preferences.path(kFile));
     preferences.write(std::string(kFile) + "/inside", "");
     EXPECT_EQ(state(), "LT1 15  ");
     closeWindow();
@@ -142,8 +130,7 @@ TEST_F(Preferences, AFileThatCannotBeWrittenIsToldOfAndStays) {
          "“" + folder.path("file") + "” is not a folder and cannot be made one."},
         {"HOME", folder.path("file"), noHome},
         {"HOME", folder.path("none"), noHome},
-        {"HOME", "x/y", noHome},
-    };
+        {"HOME", "x/y", noHome}};
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(folder.path());
     for (const auto &[variable, value, problem] : rows) {

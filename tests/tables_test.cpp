@@ -73,19 +73,6 @@ TEST(Tables, PreambleAddressCodesButWhiteOnesAreBlanks) {
     }
 }
 
-TEST(Tables, OtherControlCodes) {
-    for (unsigned second = 0x20; second < 0x2E; ++second) // mid-row codes; 2e and 2f follow
-        EXPECT_EQ(caption(word(0x11, second)), "--");
-    EXPECT_EQ(caption("912f"), "--");
-    EXPECT_EQ(caption("c1c2 91ae c1c2"), "ABAB");
-    for (const char *gone : {"9420", "94a1", "94a4", "9425", "94a7", "942c", "94ad", "94ae", "97a1",
-                             "97a2", "9723", "9753", "97a3"})
-        EXPECT_EQ(caption(std::string("c1c2 ") + gone + " c1c2"), "ABAB") << gone;
-    EXPECT_EQ(caption("94a8"), "--");
-    for (const char *unknown : {"94a2", "9423", "9429", "942a", "94ab", "1520", "152f"})
-        EXPECT_EQ(caption(unknown).substr(0, 2), std::string(unknown).substr(0, 2));
-}
-
 TEST(Tables, SpecialAndExtendedCharactersAreThoseOfTheStandard) {
     const std::pair<unsigned, const char *> sets[] = {{0x1130, "®°½¿™¢£♪à èâêîôû"},
                                                       {0x1220, "ÁÉÓÚÜü‘¡*’—©℠•“”ÀÂÇÈÊËëÎÏïÔÙùÛ«»"},

@@ -35,8 +35,7 @@ TEST(Timecode, OfSeconds) {
         {3599.9999, "01:00:00.00"}, // the quotient is rounded up, the negative rest is nothing
         {86399.99, "24:00:00.00"},  // three decimals of the quotient are left
         {-1, "00:00:00.00"},        {-0.001, "00:00:00.00"},
-        {0.00001, "00:00:00.00"},
-    };
+        {0.00001, "00:00:00.00"}};
     for (const auto &row : rows)
         EXPECT_EQ(returnTimecode(row.seconds), row.timecode) << row.seconds;
 }

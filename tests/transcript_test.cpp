@@ -35,8 +35,7 @@ TEST(CleanUp, OfEntries) {
         {"[^ *]", ""},
         {"* |", "* "},
         {"", ""},
-        {"  Hi|!  ", "  Hi!  "},
-    };
+        {"  Hi|!  ", "  Hi!  "}};
     TextArray entries;
     for (const auto &row : rows)
         entries.Append(row.first);

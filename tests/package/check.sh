@@ -38,10 +38,6 @@ expected() {
     printf 'share/icons/hicolor/%s/apps/norvane.png\n' "${sizes[@]/%/x}" | sed -E 's/([0-9]+)x/\1x\1/'
 }
 diff <(expected | sort) <(cd "$usr" && find . -type f -printf '%P\n' | sort) || fail 'the list of files'
-for size in "${sizes[@]}"; do # as the icon's header has it
-    file=$usr/share/icons/hicolor/${size}x$size/apps/norvane.png
-    [ "$(od -An -j16 -N8 --endian=big -tu4 "$file" | tr -s ' ')" = " $size $size" ] || fail "$file"
-done
 
 # Desktops know a file by its name in either case, and without one by its first words.
 quietly update-mime-database "$usr/share/mime"

@@ -90,32 +90,6 @@ TEST_F(DialogsAndDesktop, WhatTheDesktopCannotOpenIsTold) {
     EXPECT_EQ(messages.size(), 3U);
 }
 
-/// Writes another text into a file when a widget is first painted.
-class Rewriter : public QObject {
-  public:
-    std::function<void()> rewrite;
-
-  protected:
-    bool eventFilter(QObject *watched, QEvent *event) override {
-        if (event->type() == QEvent::Paint && rewrite)
-            std::exchange(rewrite, nullptr)();
-        return QObject::eventFilter(watched, event);
-    }
-};
-
-TEST_F(DialogsAndDesktop, TheWindowIsPaintedBeforeAFileIsRead) {
-    folder.write("late.scc", sccFile({hiLine("00:00:09:00")}));
-    Rewriter rewriter;
-    rewriter.rewrite = [this] {
-        EXPECT_TRUE(at("ProgressText")->isVisible() && at("ProgressBar1")->isVisible());
-        EXPECT_EQ(at("ProgressBar1")->property("value"), 0);
-        folder.write("late.scc", sample_);
-    };
-    at("Canvas1")->installEventFilter(&rewriter);
-    decode("late.scc", "late.txt");
-    EXPECT_NE(folder.read("late.txt").find("[00:00:01.33]"), std::string::npos);
-}
-
 TEST_F(DialogsAndDesktop, ASignalCancelsWhatWaitsAndQuits) {
     desktop.quitOnSignals();
     folder.write("a.scc", sample_);

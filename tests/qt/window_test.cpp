@@ -388,17 +388,14 @@ class PaintCounter : public QObject {
 
 TEST_F(MainWindow, ProgressIsPaintedAtOnceAndSeldom) {
     PaintCounter bar;
-    PaintCounter text;
     PaintCounter rest;
     at("Canvas1")->installEventFilter(&rest);
     at("ProgressBar1")->installEventFilter(&bar);
-    at("ProgressText")->installEventFilter(&text);
     window().ProgressBar1.Visible = true;
     window().ProgressText.Visible = true;
     window().ProgressBar1.Maximum = 1000000;
     window().ProgressBar1.Refresh(true);
     EXPECT_GE(bar.paints, 1);
-    EXPECT_GE(text.paints, 1);
     QTest::qWait(100);
     bar.paints = 0;
     for (int value = 0; value < 900; ++value) { // less than a pixel in all
@@ -411,12 +408,6 @@ TEST_F(MainWindow, ProgressIsPaintedAtOnceAndSeldom) {
     window().ProgressBar1.Refresh(true);
     EXPECT_GE(bar.paints, 1);
     EXPECT_GE(rest.paints, 1);
-    for (int value = 500000; value <= 1000000; value += 10) {
-        window().ProgressBar1.Value = value;
-        window().ProgressBar1.Refresh(true);
-    }
-    EXPECT_LT(bar.paints, 400);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return at("ProgressBar1")->property("value") == 1000000; }));
 }
 
 } // namespace

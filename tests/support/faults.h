@@ -2,29 +2,10 @@
 
 #include "framework/files/system_calls.h"
 
-#include <csignal>
 #include <cstdlib>
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace norvane {
-
-/// While it lives, no file can be written beyond `most` bytes, as on a disk that is full.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t most) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{most, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-  private:
-    rlimit before_{};
-};
 
 /// While it lives, permissions bind also where the tests run as root.
 class OrdinaryUser {

@@ -130,15 +130,11 @@ def scaled(places, scale):
 class Program:
     """The program from its start to its end."""
 
-    def __init__(self, executable, message=None, scale=1):
-        """`message` is what a box says ahead of the window; `scale` what it grows by."""
+    def __init__(self, executable, scale=1):
+        """`scale` is what the window grows by."""
         self.process, self.scale = subprocess.Popen([executable]), scale
         self.places = scaled({**ALWAYS, **UNFOLDED}, scale)
         self.window, self.node = "", Node("", "")
-        if message:
-            box = self.dialog("Norvane")
-            check("box ahead of the window", message in [node.name() for node in box.children()], True)
-            xdotool("key", "Escape")
         self.window = wait_for("the window comes up", self.find_window)
         self.node = wait_for("the window can be read", windows)[0]
         wait_for("the window takes keys", lambda: xdotool("getactivewindow") == self.window)
@@ -218,24 +214,17 @@ def look(program):
     check("controls of the unfolded window", program.controls(), {**ALWAYS, **UNFOLDED})
     program.click("Watch folder settings")
     wait_for("the window folds", lambda: program.geometry() == (586, 281 + program.menu_bar))
-    for button in (name for name in ALWAYS if name.startswith("Help on")):
-        program.click(button)
-        program.dialog("Norvane")
-        xdotool("key", "Escape")
-        program.no_dialog()
 
 
 def transcribe(program, companion, folder, opened):
     source = folder / "talk.scc"
     source.write_text(SAMPLE)
-    for click, form, clock in ((None, "timecode", "unbuffered"),
-                               ("Keep SCC timecode", "timecode", "scc"),
+    for click, form, clock in (("Keep SCC timecode", "timecode", "scc"),
                                ("Include Timecode", "line", "scc"),
                                ("Paragraph form", "paragraph", "scc"),
                                ("Line by line form", "timecode", "scc"),
                                ("Unbuffered timecode", "timecode", "unbuffered")):
-        if click:
-            program.click(click)
+        program.click(click)
         target = folder / f"{click}.txt"
         program.decode(source, target)
         printed = subprocess.run([companion, "--form", form, "--clock", clock, source],
@@ -352,7 +341,7 @@ def unfold(program):
 
 
 def watch(build, folder):
-    """The watch, through a start, an end and a second start of the program."""
+    """The watch, from its folders to the end of the program."""
     incoming, done = folder / "incoming", folder / "done"
     incoming.mkdir()
     done.mkdir()
@@ -391,19 +380,6 @@ def watch(build, folder):
           (folder / "com.bellwick.norvane.prefs").read_text().splitlines()[5:],
           ["0.02", f"{incoming}/", f"{done}/", "true"])
 
-    drop("fourth.scc")
-    again = Program(start)
-    check("the cycle at the second start", is_done("fourth.scc"), True)
-    drop("fifth.scc")
-    time.sleep(3)  # more than two intervals
-    check("a watch that a start switched on gets no ticks", is_done("fifth.scc"), False)
-    unfold(again)
-    again.click("Decode Watch Folder Files")
-    again.click("Decode Watch Folder Files")
-    wait_for("the watch switched off and on", lambda: is_done("fifth.scc"))
-    xdotool("key", "ctrl+q")
-    again.ends()
-
 
 def main(build):
     folder = pathlib.Path(os.environ["XDG_CONFIG_HOME"])
@@ -426,13 +402,6 @@ def main(build):
     settings = (folder / "com.bellwick.norvane.prefs").read_text().split()
     check("preferences", settings, ["true", "true", "false", "true", "false", "15", "false"])
 
-    watching = "true\ntrue\nfalse\ntrue\nfalse\n15\n\n\ntrue\n"
-    (folder / "com.bellwick.norvane.prefs").write_text(watching)
-    again = Program(f"{build}/shell/norvane", "You must choose both a watch folder and a destination "
-                    "folder to activate the timer.")
-    xdotool("key", "alt+f")
-    xdotool("key", "Return")
-    again.ends()
     (folder / "com.bellwick.norvane.prefs").unlink()
     watch(build, folder)
     (folder / "com.bellwick.norvane.prefs").unlink()

@@ -32,7 +32,6 @@ TEST(Captions, OfKnownHexTexts) {
         {"9420 9420 94ae 94ae 9470 9470 c8e9 a180 942f 942f", "  Hi!  "},
         {"9420 9420 94ae 94ae 9470 9470 c845 4c4c 4f20 574f 524c c480 942c 942c 942f 942f",
          "  HELLO WORLD  "},
-        {"9137 1937", "♪ ♪ "},
         {"9470 c1e5 9120 574f", " Ae--WO"},
         // No row: background channel, field 2, "#" of correct parity.
         {"9470 5454 9429 9429 c1c2", " TT94)94)AB"},
@@ -43,7 +42,6 @@ TEST(Captions, OfKnownHexTexts) {
         {"7fc1 28a8 2a20", "|A((á "},
         // Nothing is left: two blanks.
         {"", "  "},
-        {"91b9 91b9", "  "},
         // Rows that match across characters, on ordinary words.
         {"9470 4649 454c c480", " FLD"},
         {"9470 d945 4c4c 4f57", " éLOW"},
@@ -52,12 +50,10 @@ TEST(Captions, OfKnownHexTexts) {
         {"9470 b9b9 2520", " 9b 0"},
         // Characters whose blank is deleted put the pairs out of step until a second one comes.
         {"1329 c8e9 ef20", "{c8e9er"},
-        {"13b9 c1c2 43c4", "åc1c243c"},
         {"13b9 13b9 c1c2 43c4", "ååABCD"},
         {"13b9 13b9 ad80", "åå-"},
         // Any text is taken.
         {"c8e9a", "Hi"},
-        {"C1C2 94AE 94ae", "AB"},
         {"9470c1c2", " AB"},
         {"xyz", "xy"}};
     for (const Row &row : rows) {

@@ -85,11 +85,12 @@ class Day : public HeadlessDesktop {
         for (const char *heading : {"a", "a.scc", "b.scc"})
             whole.insert(whole.end(),
                          {hiTranscript(heading, {kTimecode}), hiTranscript(heading, {})});
-        for (const std::string &name : folder.tree())
+        for (const std::string &name : folder.tree()) {
             EXPECT_TRUE(name.ends_with('/') ||
                         (name.find(".part") == std::string::npos &&
                          std::count(whole.begin(), whole.end(), folder.read(name)) == 1))
                 << name;
+        }
         EXPECT_TRUE(folder.has("watch/a.scc") || isDecoded("a"));
         EXPECT_TRUE(folder.has("watch/b.scc") || isDecoded("b"));
     }

@@ -32,7 +32,7 @@ class NameDialog : public QFileDialog {
         const bool hasQuotes = edit != nullptr && edit->text().contains(u'"');
         quoted_ = hasQuotes ? directory().filePath(edit->text()) : QString();
         if (hasQuotes && (acceptMode() == AcceptSave || QFileInfo::exists(quoted_)))
-            QDialog::accept();
+            done(QDialog::Accepted);
         else
             QFileDialog::accept();
     }

@@ -46,13 +46,15 @@ void QtDesktop::quit() {
 }
 
 void QtDesktop::quitOnSignals() {
+    quitting_.setSingleShot(true);
+    QObject::connect(&quitting_, &QTimer::timeout, [this] { quitWhenIdle(); });
     onEndSignals(alarm_, [this] { quitWhenIdle(); });
 }
 
 void QtDesktop::quitWhenIdle() {
     dialogs.cancelAll();
     if (dialogs.waiting()) // in a loop of theirs, which ends with this event
-        QTimer::singleShot(0, &alarm_, [this] { quitWhenIdle(); });
+        quitting_.start(0);
     else
         quit();
 }

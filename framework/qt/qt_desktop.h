@@ -72,7 +72,8 @@ class QtDesktop : public Desktop {
     std::map<const Window *, QPointer<WindowPeer>> peers_;
     std::vector<Window *> windows_;
     std::vector<Timer *> timers_;
-    QTimer alarm_; // goes off at the earliest due time
+    QTimer alarm_;    // goes off at the earliest due time
+    QTimer quitting_; // goes off when a dialog that waited has closed
 };
 
 } // namespace norvane

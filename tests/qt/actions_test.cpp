@@ -43,7 +43,10 @@ TEST_F(Actions, MenusAreTheProgramsOwnAndQuitEndsIt) {
     EXPECT_EQ(menus, "&File: &Quit=Ctrl+Q (quit) About Norvane= (settings)"
                      "&Edit: &Undo=Ctrl+Z - Cu&t=Ctrl+X &Copy=Ctrl+C &Paste=Ctrl+V &Delete= - "
                      "Select &All=Ctrl+A");
-    QTimer::singleShot(0, peer(), [this] { choose("FileQuit"); });
+    QTimer later;
+    later.setSingleShot(true);
+    QObject::connect(&later, &QTimer::timeout, [this] { choose("FileQuit"); });
+    later.start(0);
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_TRUE(preferences.has("com.bellwick.norvane.prefs"));
 }

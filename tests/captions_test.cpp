@@ -35,7 +35,6 @@ TEST(Captions, OfKnownHexTexts) {
         {"9470 c1e5 9120 574f", " Ae--WO"},
         // No row: background channel, field 2, "#" of correct parity.
         {"9470 5454 9429 9429 c1c2", " TT94)94)AB"},
-        {"c180 1c20 1c20 c2c2", "A1c 1c BB"},
         {"9470 2380 c1c2", " 23AB"},
         {"c44f cea7 9229 5480", "DON'T"}, // the fallback of the deleted quote stays
         {"13ae 92a8 91b9", "¦ *  "},
@@ -50,7 +49,6 @@ TEST(Captions, OfKnownHexTexts) {
         {"9470 b9b9 2520", " 9b 0"},
         // Characters whose blank is deleted put the pairs out of step until a second one comes.
         {"1329 c8e9 ef20", "{c8e9er"},
-        {"13b9 13b9 c1c2 43c4", "ååABCD"},
         {"13b9 13b9 ad80", "åå-"},
         // Any text is taken.
         {"c8e9a", "Hi"},

@@ -33,7 +33,7 @@ UNFOLDED = {
     "Check for files every": (323, 290, 135, 20),
     "Minutes between two checks for files": (457, 289, 40, 22),
 }
-# These are as wide as their captions, at most as the table says.
+# These are as large as indicator and caption, in the middle of what the table says.
 CHECKABLE = {"Include Timecode", "Line by line form", "Paragraph form", "Unbuffered timecode",
              "Keep SCC timecode", "Decode Watch Folder Files"}
 SAMPLE = ("Scenarist_SCC V1.0\n\n"
@@ -162,9 +162,11 @@ class Program:
             if not name or not node.shows():
                 continue
             left, top, width, height = node.place()
-            if name in CHECKABLE:
-                width = max(width, self.places[name][2])
-            places[name] = (left - origin_left, top - origin_top - self.menu_bar, width, height)
+            top -= origin_top + self.menu_bar
+            meant = self.places.get(name)
+            if name in CHECKABLE and abs(2 * top + height - 2 * meant[1] - meant[3]) <= 2:
+                top, width, height = meant[1], max(width, meant[2]), meant[3]
+            places[name] = (left - origin_left, top, width, height)
         return places
 
     def click(self, name):
@@ -213,7 +215,7 @@ def look(program):
     unfold(program)
     check("controls of the unfolded window", program.controls(), {**ALWAYS, **UNFOLDED})
     program.click("Watch folder settings")
-    wait_for("the window folds", lambda: program.geometry() == (586, 281 + program.menu_bar))
+    wait_for("the window folds", lambda: program.geometry()[1] == 281 + program.menu_bar)
 
 
 def transcribe(program, companion, folder, opened):

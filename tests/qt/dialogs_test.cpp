@@ -113,12 +113,19 @@ TEST_F(DialogsAndDesktop, ABoxWithoutAWindowBehindItEndsNothing) {
         EXPECT_EQ(dynamic_cast<QMessageBox &>(box).textFormat(), Qt::PlainText);
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    QTimer::singleShot(0, [] { MsgBox("<b>a & b</b>"); });
+    QTimer box;
+    QTimer end;
     bool went = false;
-    QTimer::singleShot(100, [&] {
+    QObject::connect(&box, &QTimer::timeout, &box, [&] {
+        box.stop();
+        MsgBox("<b>a & b</b>");
+    });
+    QObject::connect(&end, &QTimer::timeout, &end, [&] {
         went = true;
         QApplication::exit();
     });
+    box.start(0);
+    end.start(100);
     QApplication::exec();
     EXPECT_TRUE(went);
 }

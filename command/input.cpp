@@ -1,7 +1,6 @@
 #include "command/input.h"
 
 #include "decode/data_line.h"
-#include "framework/files/disk.h"
 #include "framework/text/text.h"
 
 #include <cerrno>
@@ -17,28 +16,14 @@ namespace {
 
 constexpr const char *kStandardInput = "-";
 constexpr const char *kStandardInputName = "stdin";
+constexpr std::size_t kBlock = std::size_t{1} << 17U;
 
-Bytes readStandardInput() {
-    constexpr std::size_t kBlock = 65536;
-    Bytes bytes(kBlock);
-    for (;;) {
-        const ssize_t count = read(STDIN_FILENO, bytes.rest(), bytes.restSize());
-        if (count < 0)
-            throw Problem{"cannot be read: " + std::generic_category().message(errno) + "."};
-        if (count == 0)
-            return bytes;
-        bytes.fill(static_cast<std::size_t>(count));
-        if (bytes.restSize() == 0)
-            bytes.grow(2 * bytes.size());
-    }
-}
-
-Bytes readFile(const std::string &path) {
+disk::InputFile openFile(const std::string &path) {
     const std::string absolute = absolutePath(path);
     std::string problem;
     disk::InputFile file(absolute, problem);
     if (file.isOpen())
-        return file.readAll();
+        return file;
     // What tells it has the file's name in front already.
     const std::string named = inQuotes(absolute) + " ";
     if (problem.starts_with(named))
@@ -64,15 +49,56 @@ std::string shownName(const std::string &path) {
 }
 
 Input::Input(const std::string &path)
-    : name(path == kStandardInput ? kStandardInputName : path.substr(path.rfind('/') + 1)) {
-    if (path == kStandardInput) {
-        text = readStandardInput();
+    : name_(path == kStandardInput ? kStandardInputName : path.substr(path.rfind('/') + 1)),
+      bytes_(kBlock) {
+    if (path == kStandardInput)
         return;
-    }
-    text = readFile(path);
-    if (!isSccName(name))
+    file_ = openFile(path);
+    if (!isSccName(name_))
         throw Problem{std::string(kNotSccMessage),
                       "If it is one, give it a name that ends in .scc, or pipe it in."};
+}
+
+bool Input::readSome() {
+    if (file_)
+        return file_->readSome(bytes_);
+    const ssize_t count = read(STDIN_FILENO, bytes_.rest(), bytes_.restSize());
+    if (count < 0)
+        throw Problem{"cannot be read: " + std::generic_category().message(errno) + "."};
+    bytes_.fill(static_cast<std::size_t>(count));
+    return count > 0;
+}
+
+/// Reads as much as there is already and more, so that no byte of a long line is looked at often.
+void Input::readOn() {
+    bytes_.drop(bytes_.size() - lines_.rest().size());
+    if (bytes_.restSize() < bytes_.size())
+        bytes_.grow(2 * bytes_.size());
+    while (!ended_ && bytes_.restSize() != 0)
+        ended_ = !readSome();
+    lines_ = LineReader(bytes_.view(), lines_.number());
+}
+
+std::string_view Input::nextLine() {
+    for (;;) {
+        const LineReader before = lines_;
+        const std::string_view line = lines_.nextNotEmpty();
+        if (!lines_.atEnd() || ended_)
+            return line;
+        lines_ = before; // the line, or its end, may go on behind the block
+        readOn();
+    }
+}
+
+std::string_view Input::beginning() {
+    readOn();
+    return bytes_.view();
+}
+
+std::string_view Input::all() {
+    while (!ended_)
+        readOn();
+    return bytes_.view();
 }
 
 void tell(const std::string &shownFile, const Problem &problem) {

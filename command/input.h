@@ -1,7 +1,10 @@
 #pragma once
 
 #include "framework/files/bytes.h"
+#include "framework/files/disk.h"
+#include "framework/text/line_reader.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,13 +17,37 @@ struct Problem {
     std::size_t line = 0; // of the file; 0 when it concerns none
 };
 
-/// A file of the command line, or standard input, whole in memory.
-struct Input {
-    std::string name; // without its folder
-    Bytes text{};
-
-    /// Reads `path`, or standard input when it is "-". Throws Problem.
+/// A file of the command line, or standard input, read block by block: its memory stays small and
+/// in the processor's cache, however long the file is.
+class Input {
+  public:
+    /// Opens `path`, or standard input when it is "-". Throws Problem.
     explicit Input(const std::string &path);
+
+    const std::string &name() const { return name_; } // without its folder
+
+    /// Bytes of the file when it was opened; 0 where nobody knows.
+    std::size_t size() const { return file_ ? file_->size() : 0; }
+
+    /// The next line that is not empty; the empty text at the end. It holds until the next call.
+    /// Throws Problem and IOException.
+    std::string_view nextLine();
+    std::size_t lineNumber() const { return lines_.number(); } // from 1, empty ones counted
+
+    /// The first block, for a look before any line is read; all of the file. Throw as nextLine
+    /// does.
+    std::string_view beginning();
+    std::string_view all();
+
+  private:
+    bool readSome();
+    void readOn();
+
+    std::string name_;
+    std::optional<disk::InputFile> file_{}; // nothing for standard input
+    Bytes bytes_;
+    LineReader lines_{std::string_view()};
+    bool ended_ = false;
 };
 
 /// A path as the file system wants it. Throws Problem for the empty one.

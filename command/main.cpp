@@ -22,7 +22,7 @@ bool doTask(const std::string &argument, const Options &options) {
         if (options.task == Task::explain)
             explainFile(place, options);
         else
-            transcribe(Input(place.path), options);
+            transcribe(place.path, options);
         return true;
     } catch (const Problem &problem) {
         tell(shownName(place.path), problem);

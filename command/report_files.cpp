@@ -31,12 +31,13 @@ Place placeOf(const std::string &argument) {
 }
 
 void explainFile(const Place &place, const Options &options) {
-    const Input input(place.path);
+    Input input(place.path);
+    const std::string_view text = input.all();
     const std::string shown = shownName(place.path);
     FindingKinds ofFile = options.kinds;
     ofFile.reset(static_cast<std::size_t>(FindingKind::digits)); // they are the line's own
     ofFile.reset(static_cast<std::size_t>(FindingKind::altered));
-    const std::vector<Finding> findings = check(input.text.view(), ofFile);
+    const std::vector<Finding> findings = check(text, ofFile);
     bool isFirst = true;
     const auto tellOf = [&](const Explanation &explanation) {
         if (options.json)
@@ -48,7 +49,7 @@ void explainFile(const Place &place, const Options &options) {
     const auto isWanted = [&place](std::size_t line) {
         return place.line == 0 || place.line == line;
     };
-    SccReader reader(input.text.view());
+    SccReader reader(text);
     if (isWanted(reader.headerNumber()))
         tellOf(explainHeader(reader.header(), reader.headerNumber(), findings));
     while (const auto line = reader.next()) {
@@ -60,9 +61,9 @@ void explainFile(const Place &place, const Options &options) {
 }
 
 bool checkFile(const std::string &path, const Options &options) {
-    const Input input(path);
+    Input input(path);
     const std::string shown = shownName(path);
-    const std::vector<Finding> findings = check(input.text.view(), options.kinds);
+    const std::vector<Finding> findings = check(input.all(), options.kinds);
     for (const Finding &finding : findings)
         print(options.json ? jsonOf(finding, shown) : reportOf(finding, shown));
     return findings.empty();

@@ -1,5 +1,6 @@
 #include "command/transcribe.h"
 
+#include "command/input.h"
 #include "decode/caption.h"
 #include "explain/refusal_help.h"
 #include "framework/files/disk.h"
@@ -32,24 +33,24 @@ class SignalsWait {
     sigset_t before_{};
 };
 
-std::string bodyOf(std::string_view text, const Options &options) {
-    TranscriptBody body(options.form, text.size()); // room costs nothing where it is not used
+std::string bodyOf(Input &input, const Options &options) {
+    TranscriptBody body(options.form, input.size()); // room costs nothing where it is not used
     std::string timecode;
     std::string caption;
-    LineReader lines(text);
-    lines.nextNotEmpty(); // the header
-    for (auto kept = lines.nextNotEmpty(); !kept.empty(); kept = lines.nextNotEmpty()) {
+    const std::string foreign = foreignFormat(input.beginning());
+    input.nextLine(); // the header
+    for (auto kept = input.nextLine(); !kept.empty(); kept = input.nextLine()) {
         const auto line = takeApart(kept);
         if (const Refusal *refusal = std::get_if<Refusal>(&line))
-            throw Problem{std::string(messageOf(*refusal)), refusalHelp(text, kept),
-                          lineNumber(text, kept)};
+            throw Problem{std::string(messageOf(*refusal)),
+                          foreign.empty() ? refusalHelp(kept) : foreign, input.lineNumber()};
         try {
             timecode = startTime(std::get<DataLine>(line), options.clock);
             caption.clear();
             appendCaption(caption, std::get<DataLine>(line).hexText);
         } catch (const OutOfBoundsException &failure) {
             throw Problem{failure.what(), entryHelp(std::get<DataLine>(line), options.clock),
-                          lineNumber(text, kept)};
+                          input.lineNumber()};
         }
         cleanEntry(caption);
         correctComma(timecode);
@@ -77,9 +78,10 @@ void writeTo(const std::string &path, const std::string &heading, const std::str
 
 } // namespace
 
-void transcribe(const Input &input, const Options &options) {
-    const std::string body = bodyOf(input.text.view(), options);
-    const std::string baseName = baseNameOf(input.name);
+void transcribe(const std::string &path, const Options &options) {
+    Input input(path);
+    const std::string body = bodyOf(input, options);
+    const std::string baseName = baseNameOf(input.name());
     const std::string heading = headingOf(baseName);
     if (options.outputFolder.empty()) {
         for (const std::string_view text :

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "command/input.h"
 #include "command/options.h"
+
+#include <string>
 
 namespace norvane {
 
-/// Writes the transcript of a file to standard output, or to a file of the output folder, which
-/// must exist. Throws Problem, and IOException for what cannot be written.
-void transcribe(const Input &input, const Options &options);
+/// Writes the transcript of the file `path`, or of standard input for "-", to standard output, or
+/// to a file of the output folder, which must exist. Throws Problem, and IOException for what
+/// cannot be written.
+void transcribe(const std::string &path, const Options &options);
 
 } // namespace norvane

@@ -47,7 +47,7 @@ std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
             findings.add(line->number,
                          *line->refusal == Refusal::noTab ? FindingKind::tab
                                                           : FindingKind::timecode,
-                         refusalHelp(text, line->text));
+                         refusalHelp(line->text));
             continue;
         }
         timecodes.look(*line, findings);

@@ -35,10 +35,8 @@ std::string foreignFormat(std::string_view text) {
     return "";
 }
 
-std::string refusalHelp(std::string_view text, std::string_view line) {
+std::string refusalHelp(std::string_view line) {
     constexpr std::size_t kTimecodeSize = 11;
-    if (std::string foreign = foreignFormat(text); !foreign.empty())
-        return foreign;
     if (holdsOnly(line, kNul))
         return "The line holds nothing but NULs, as a failed copy leaves it: ask for the file "
                "again.";

@@ -40,25 +40,16 @@ bool isControlCode(const CodeMeaning &meaning) {
 } // namespace
 
 SccReader::SccReader(std::string_view text) : lines_(text) {
-    header_ = nextKept();
-    headerNumber_ = std::max<std::size_t>(number_, 1);
-}
-
-std::string_view SccReader::nextKept() {
-    std::string_view line;
-    while (line.empty() && !lines_.atEnd()) {
-        line = lines_.next();
-        ++number_;
-    }
-    return line;
+    header_ = lines_.nextNotEmpty();
+    headerNumber_ = std::max<std::size_t>(lines_.number(), 1);
 }
 
 std::optional<SccLine> SccReader::next() {
     SccLine line;
-    line.text = nextKept();
+    line.text = lines_.nextNotEmpty();
     if (line.text.empty())
         return {};
-    line.number = number_;
+    line.number = lines_.number();
     line.entry = ++entries_;
     const auto parts = takeApart(line.text);
     if (const Refusal *refusal = std::get_if<Refusal>(&parts)) {

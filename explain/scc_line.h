@@ -58,12 +58,10 @@ class SccReader {
         std::string_view mode{};
     };
 
-    std::string_view nextKept();
     void readWords(SccLine &line);
     void assignService(SccWord &word);
 
     LineReader lines_;
-    std::size_t number_ = 0;
     std::size_t entries_ = 0;
     std::string_view header_;
     std::size_t headerNumber_ = 0;

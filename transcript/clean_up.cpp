@@ -97,20 +97,19 @@ void cleanEntries(TextArray &captions) {
 // before it, which stays; bars count as blanks before blanks are folded; and the first pass, which
 // comes before all that, takes a blank of its own.
 void cleanTranscript(std::string &transcriptText) {
-    constexpr std::size_t kEighth =
-        8; // what three halvings leave of a run, a half counting as a whole
+    constexpr std::size_t kEighth = 8; // what three halvings, each rounded up, leave of a run
     const std::string_view text = transcriptText; // a cut moves only what was read
     Cutter cutter(transcriptText);
     std::size_t done = 0;
     for (std::size_t at = nextChange(text, 0); at < text.size(); at = nextChange(text, done)) {
-        const auto pastAll = [&text, at](std::string_view characters) {
+        const auto pastAll = [&text, at](char one, char other) {
             std::size_t end = at + 1;
-            while (end < text.size() && characters.find(text[end]) != std::string_view::npos)
+            while (end < text.size() && (text[end] == one || text[end] == other))
                 ++end;
             return end;
         };
         if (text[at] == '-') {
-            done = pastAll("-");
+            done = pastAll('-', '-');
             cutter.cut(at, std::min(hyphensTaken(text.substr(0, at)), done - at));
         } else if (text[at] == '\\') {
             // Kept: a backslash and the letter t, and no tab, so the blank behind a real tab stays.
@@ -122,9 +121,9 @@ void cleanTranscript(std::string &transcriptText) {
             }
         } else {
             const std::size_t run = at > done && text[at - 1] == ' ' ? at - 1 : at;
-            done = pastAll(" |");
+            done = pastAll(' ', '|');
             const std::size_t left = (done - run + kEighth - 1) / kEighth;
-            std::fill_n(transcriptText.begin() + static_cast<std::ptrdiff_t>(run), left, ' ');
+            std::memset(transcriptText.data() + run, ' ', left);
             cutter.cut(run + left, done - run - left);
         }
     }

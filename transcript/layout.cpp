@@ -3,18 +3,24 @@
 #include "framework/text/text.h"
 #include "transcript/clean_up.h"
 
+#include <algorithm>
+
 namespace norvane {
 
 void TranscriptBody::add(std::string_view timecode, std::string_view caption) {
+    using std::string_view_literals::operator""sv;
+    const auto put = [this](auto... pieces) { // with one look for room
+        const std::size_t start = text_.size();
+        text_.resize(start + (pieces.size() + ...));
+        char *end = text_.data() + start;
+        ((end = std::copy(pieces.begin(), pieces.end(), end)), ...);
+    };
     if (form_ == Form::timecode)
-        text_.append("[").append(timecode).append("]\t");
-    else if (form_ == Form::paragraph)
-        text_ += ' ';
-    text_ += caption;
-    if (form_ != Form::paragraph)
-        text_ += EndOfLine;
-    if (form_ == Form::timecode)
-        text_ += EndOfLine;
+        put("["sv, timecode, "]\t"sv, caption, EndOfLine, EndOfLine);
+    else if (form_ == Form::line)
+        put(caption, EndOfLine);
+    else
+        put(" "sv, caption);
 }
 
 std::string TranscriptBody::take() {
@@ -23,8 +29,7 @@ std::string TranscriptBody::take() {
 }
 
 void correctComma(std::string &timecode) {
-    const std::size_t comma = timecode.find(',');
-    if (comma != std::string::npos)
+    if (const std::size_t comma = timecode.find(','); comma != std::string::npos)
         timecode[comma] = '.';
 }
 

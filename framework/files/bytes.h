@@ -26,6 +26,13 @@ class Bytes {
     void fill(std::size_t size) { size_ += size; }
     void clear() { size_ = 0; }
 
+    /// Takes the first `size` bytes out; the others move to the front.
+    void drop(std::size_t size) {
+        size_ -= size;
+        if (size_ != 0)
+            std::memmove(data_.get(), data_.get() + size, size_);
+    }
+
     /// Makes the whole room `room` bytes, not less than what is filled.
     void grow(std::size_t room) {
         auto larger = std::make_unique_for_overwrite<char[]>(room);

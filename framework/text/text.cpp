@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 
 namespace norvane {
@@ -125,10 +126,14 @@ std::size_t characterSize(std::string_view text) {
 }
 
 bool isAscii(std::string_view text) {
-    unsigned char all = 0;
+    std::uint64_t all = 0;
+    for (std::uint64_t block = 0; text.size() >= sizeof block; text.remove_prefix(sizeof block)) {
+        std::memcpy(&block, text.data(), sizeof block);
+        all |= block;
+    }
     for (const char c : text)
-        all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
-    return all < 0x80;
+        all |= static_cast<unsigned char>(c);
+    return (all & 0x8080808080808080U) == 0;
 }
 
 std::string printable(std::string_view text) {

@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char *kStandardInput = "-";
 constexpr const char *kStandardInputName = "stdin";
-constexpr std::size_t kBlock = std::size_t{1} << 17U;
+constexpr std::size_t kBlock = std::size_t{1} << 15U;
 
 disk::InputFile openFile(const std::string &path) {
     const std::string absolute = absolutePath(path);

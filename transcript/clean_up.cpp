@@ -102,14 +102,8 @@ void cleanTranscript(std::string &transcriptText) {
     Cutter cutter(transcriptText);
     std::size_t done = 0;
     for (std::size_t at = nextChange(text, 0); at < text.size(); at = nextChange(text, done)) {
-        const auto pastAll = [&text, at](char one, char other) {
-            std::size_t end = at + 1;
-            while (end < text.size() && (text[end] == one || text[end] == other))
-                ++end;
-            return end;
-        };
         if (text[at] == '-') {
-            done = pastAll('-', '-');
+            done = std::min(text.find_first_not_of('-', at), text.size());
             cutter.cut(at, std::min(hyphensTaken(text.substr(0, at)), done - at));
         } else if (text[at] == '\\') {
             // Kept: a backslash and the letter t, and no tab, so the blank behind a real tab stays.
@@ -121,9 +115,12 @@ void cleanTranscript(std::string &transcriptText) {
             }
         } else {
             const std::size_t run = at > done && text[at - 1] == ' ' ? at - 1 : at;
-            done = pastAll(' ', '|');
+            done = at + 1;
+            while (done < text.size() && (text[done] == ' ' || text[done] == '|'))
+                ++done;
             const std::size_t left = (done - run + kEighth - 1) / kEighth;
-            std::memset(transcriptText.data() + run, ' ', left);
+            for (std::size_t blank = run; blank < run + left; ++blank)
+                transcriptText[blank] = ' ';
             cutter.cut(run + left, done - run - left);
         }
     }

@@ -193,6 +193,8 @@ TEST_F(Files, ACopyThatIsThereIsLeftAloneAndOnlyWhatMustLastIsFlushed) {
     flushes = 0;
     folder.item("text")->CreateTextFile()->Close();
     EXPECT_EQ(flushes, 2);
+    disk::systemCalls.fsync = {[](int) { return -1; }};
+    EXPECT_THROW(folder.item("text")->CreateTextFile()->Close(), IOException);
 }
 
 TEST_F(Files, AFileThatGrowsEndsWhereItEnded) {

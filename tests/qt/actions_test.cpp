@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QFileDialog>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -43,6 +44,7 @@ TEST_F(Actions, MenusAreTheProgramsOwnAndQuitEndsIt) {
     EXPECT_EQ(menus, "&File: &Quit=Ctrl+Q (quit) About Norvane= (settings)"
                      "&Edit: &Undo=Ctrl+Z - Cu&t=Ctrl+X &Copy=Ctrl+C &Paste=Ctrl+V &Delete= - "
                      "Select &All=Ctrl+A");
+    EXPECT_EQ(peer()->layout()->itemAt(0)->geometry().y(), peer()->layout()->menuBar()->height());
     QTimer later;
     later.setSingleShot(true);
     QObject::connect(&later, &QTimer::timeout, [this] { choose("FileQuit"); });

@@ -116,10 +116,8 @@ TEST_F(DialogsAndDesktop, ABoxWithoutAWindowBehindItEndsNothing) {
     QTimer box;
     QTimer end;
     bool went = false;
-    QObject::connect(&box, &QTimer::timeout, &box, [&] {
-        box.stop();
-        MsgBox("<b>a & b</b>");
-    });
+    box.setSingleShot(true);
+    QObject::connect(&box, &QTimer::timeout, &box, [] { MsgBox("<b>a & b</b>"); });
     QObject::connect(&end, &QTimer::timeout, &end, [&] {
         went = true;
         QApplication::exit();

@@ -7,8 +7,9 @@
 
 namespace norvane {
 
-/// What a text, of which the first two lines are enough, is when it is no SCC file at all but UTF-16, subtitles of another format, or nothing
-/// but NULs, and what to do; empty when it may be one.
+/// What a text, of which the first two lines are enough, is when it is no SCC file at all but
+/// UTF-16, subtitles of another format, or nothing but NULs, and what to do; empty when it may be
+/// one.
 std::string foreignFormat(std::string_view text);
 
 /// What stands in a line that was refused, and what to do, in a file of no foreign format.

@@ -30,6 +30,7 @@ for number, before, after in ((signal.SIGTERM, None, DESIGN), (signal.SIGINT, CH
         program = subprocess.Popen([sys.argv[1]], stderr=subprocess.DEVNULL, env={
             **os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_CONFIG_HOME": folder})
         while not caught(program) >> (number - 1) & 1:
+            assert program.poll() is None, f"ended by itself: {program.returncode}"
             time.sleep(0.01)
         time.sleep(0.2)  # in the middle of things
         program.send_signal(number)

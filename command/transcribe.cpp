@@ -35,7 +35,6 @@ class SignalsWait {
 
 std::string bodyOf(Input &input, const Options &options) {
     TranscriptBody body(options.form, input.size()); // room costs nothing where it is not used
-    std::string timecode;
     std::string caption;
     const std::string foreign = foreignFormat(input.beginning());
     input.nextLine(); // the header
@@ -45,16 +44,16 @@ std::string bodyOf(Input &input, const Options &options) {
             throw Problem{std::string(messageOf(*refusal)),
                           foreign.empty() ? refusalHelp(kept) : foreign, input.lineNumber()};
         try {
-            timecode = startTime(std::get<DataLine>(line), options.clock);
+            std::string timecode = startTime(std::get<DataLine>(line), options.clock);
             caption.clear();
             appendCaption(caption, std::get<DataLine>(line).hexText);
+            cleanEntry(caption);
+            correctComma(timecode);
+            body.add(timecode, caption);
         } catch (const OutOfBoundsException &failure) {
             throw Problem{failure.what(), entryHelp(std::get<DataLine>(line), options.clock),
                           input.lineNumber()};
         }
-        cleanEntry(caption);
-        correctComma(timecode);
-        body.add(timecode, caption);
     }
     return body.take();
 }

@@ -70,7 +70,9 @@ struct Trie {
     }
 };
 
-constexpr CrossingKeys kDerived = [] {
+} // namespace
+
+constexpr CrossingKeys kCrossingKeys = [] {
     Trie trie;
     for (std::size_t row = kBlanksRow + 1; row <= kLastWalkedRow; ++row) {
         const std::string_view key = kReplacementChain[row - 1].key;
@@ -92,9 +94,5 @@ constexpr CrossingKeys kDerived = [] {
     }
     return keys;
 }();
-
-} // namespace
-
-constexpr CrossingKeys kCrossingKeys = kDerived;
 
 } // namespace norvane

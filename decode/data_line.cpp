@@ -10,7 +10,6 @@ namespace {
 
 /// Whether two digits and a colon stand somewhere in a line.
 bool holdsTimecode(std::string_view line) {
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     for (std::size_t at = 0; at + 2 < line.size(); ++at) {
         if (isDigit(line[at]) && isDigit(line[at + 1]) && line[at + 2] == ':')
             return true;

@@ -44,13 +44,12 @@ double sevenDigits(double value) {
 
 /// The frames of "HH:MM:SS:FF", each ":" or ";", within a day; nothing for another text.
 std::optional<std::uint32_t> ordinaryFrames(std::string_view timecode) {
-    constexpr std::size_t kFields = 4;
-    constexpr std::array<std::uint32_t, kFields> kPerField = {0, 60, 60, 30};
+    constexpr std::array<std::uint32_t, 4> kPerField = {0, 60, 60, 30};
     constexpr std::uint32_t kDay = 24 * 60 * 60 * 30;
-    if (timecode.size() != 3 * kFields - 1)
+    if (timecode.size() != 3 * kPerField.size() - 1)
         return {};
     std::uint32_t frames = 0;
-    for (std::size_t field = 0; field < kFields; ++field) {
+    for (std::size_t field = 0; field < kPerField.size(); ++field) {
         const std::size_t place = 3 * field;
         const auto tens = static_cast<unsigned>(timecode[place] - '0');
         const auto ones = static_cast<unsigned>(timecode[place + 1] - '0');
@@ -65,9 +64,9 @@ std::optional<std::uint32_t> ordinaryFrames(std::string_view timecode) {
 /// The start of an ordinary line in whole numbers: frames and characters are multiples of 1/150 s,
 /// and half of that is the unit. Seven digits of seconds are off by too little to count, but from
 /// 10,000 s on, where they are whole hundredths. Seven digits of minutes take what is less than
-/// 10 units before a minute to the next one at times, and what is that minute to this one: nothing
-/// then, as for other lines.
-std::optional<std::string> ordinaryStart(std::string_view timecode, std::size_t characters) {
+/// 10 units before a minute to the next one at times, and what is that minute to this one: the
+/// empty text then, as for other lines.
+std::string ordinaryStart(std::string_view timecode, std::size_t characters) {
     constexpr std::size_t kMostCharacters = 10'000;
     constexpr std::uint32_t kUnitsPerFrame = 10;
     constexpr std::uint32_t kUnitsPerCharacter = 2;
@@ -75,9 +74,10 @@ std::optional<std::string> ordinaryStart(std::string_view timecode, std::size_t 
     constexpr std::uint32_t kUnitsPerMinute = 60 * 100 * kUnitsPerHundredth;
     constexpr std::uint32_t kFirstInHundredths = 10'000 * 30;
     constexpr std::uint32_t kNearMinute = 10;
+    std::string text;
     const auto frames = ordinaryFrames(timecode);
     if (!frames || characters > kMostCharacters)
-        return {};
+        return text;
     const auto hundredths = [](std::uint32_t units) { // rounded; thirds are never halves
         return (units + 1) / kUnitsPerHundredth;
     };
@@ -87,8 +87,8 @@ std::optional<std::string> ordinaryStart(std::string_view timecode, std::size_t 
     units += static_cast<std::uint32_t>(characters) * kUnitsPerCharacter;
     const std::uint32_t rest = units % kUnitsPerMinute;
     if (rest == 0 || rest > kUnitsPerMinute - kNearMinute)
-        return {};
-    std::string text = "00:00:00.00";
+        return text;
+    text = "00:00:00.00";
     const auto putPair = [&text](std::size_t place, std::uint32_t number) {
         text[place] = static_cast<char>('0' + number / 10);
         text[place + 1] = static_cast<char>('0' + number % 10);
@@ -129,13 +129,15 @@ std::string returnTimecode(double seconds) {
 
 std::string unbufferedTimecode(std::string_view timecode, std::string_view hexText) {
     const std::size_t characters = Len(hexText);
-    if (auto start = ordinaryStart(timecode, characters))
-        return *std::move(start);
-    std::string colons(timecode);
-    std::replace(colons.begin(), colons.end(), ';', ':');
+    std::string time = ordinaryStart(timecode, characters);
+    if (!time.empty())
+        return time;
+    time = timecode;
+    std::replace(time.begin(), time.end(), ';', ':');
     const double bufferTime =
         static_cast<double>(characters) / kCharactersPerWord / kFramesPerSecond;
-    return returnTimecode(sevenDigits(sccSeconds(colons)) + bufferTime);
+    time = returnTimecode(sevenDigits(sccSeconds(time)) + bufferTime);
+    return time;
 }
 
 } // namespace norvane

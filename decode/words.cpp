@@ -273,10 +273,8 @@ bool appendCaptionByWords(std::string &captions, std::string_view hexText) {
     captions.resize(start + hexText.size() + kRoomBeyond);
     char *const out = captions.data() + start;
     char *end = putWords(out, hexText);
-    if (end == out) { // all deleted
-        *end++ = ' ';
-        *end++ = ' ';
-    }
+    if (end == out) // all deleted
+        end = std::fill_n(out, 2, ' ');
     captions.resize(end == nullptr ? start : static_cast<std::size_t>(end - captions.data()));
     return end != nullptr;
 }

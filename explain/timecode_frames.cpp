@@ -1,5 +1,7 @@
 #include "explain/timecode_frames.h"
 
+#include "framework/text/text.h"
+
 #include <array>
 
 namespace norvane {
@@ -35,10 +37,9 @@ std::optional<FrameTimecode> readFrameTimecode(std::string_view text) {
         return {};
     std::array<int, 4> fields{};
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isDigit = text[i] >= '0' && text[i] <= '9';
-        if (isDigit != (kForm[i] == '0'))
+        if (isDigit(text[i]) != (kForm[i] == '0'))
             return {};
-        if (isDigit)
+        if (isDigit(text[i]))
             fields.at(i / 3) = fields.at(i / 3) * 10 + text[i] - '0';
         else if (text[i] != ':' && (i != kLastMark || text[i] != ';'))
             return {};

@@ -30,18 +30,16 @@ void removeFirst(std::string &entry, std::string_view find, std::string_view unl
 /// Takes pieces out of a text, in order, in one go through it.
 class Cutter {
   public:
-    explicit Cutter(std::string &text) : text_(text) {}
-    Cutter(const Cutter &) = delete;
-    Cutter &operator=(const Cutter &) = delete;
-    ~Cutter() {
-        keepUpTo(text_.size());
-        text_.resize(kept_);
-    }
-
+    Cutter(std::string &text, std::size_t start) : text_(text), kept_(start), read_(start) {}
     /// `start` is not before the end of the cut before.
     void cut(std::size_t start, std::size_t size) {
         keepUpTo(start);
         read_ = start + size;
+    }
+
+    void finish() {
+        keepUpTo(text_.size());
+        text_.resize(kept_);
     }
 
   private:
@@ -53,8 +51,8 @@ class Cutter {
     }
 
     std::string &text_;
-    std::size_t kept_ = 0; // how much of the result is in its place
-    std::size_t read_ = 0; // how much of the text is done
+    std::size_t kept_; // how much of the result is in its place
+    std::size_t read_; // how much of the text is done
 };
 
 /// How many rows of the accent pairs take a hyphen from behind the character that `text` ends in.
@@ -95,13 +93,13 @@ void cleanEntries(TextArray &captions) {
 
 // The passes in one go. They do not disturb each other: a hyphen goes because of the character
 // before it, which stays; bars count as blanks before blanks are folded; and the first pass, which
-// comes before all that, takes a blank of its own.
-void cleanTranscript(std::string &transcriptText) {
+// comes before all that, takes a blank of its own. None reaches across an end of line.
+void cleanTranscript(std::string &transcriptText, std::size_t start) {
     constexpr std::size_t kEighth = 8; // what three halvings, each rounded up, leave of a run
     const std::string_view text = transcriptText; // a cut moves only what was read
-    Cutter cutter(transcriptText);
-    std::size_t done = 0;
-    for (std::size_t at = nextChange(text, 0); at < text.size(); at = nextChange(text, done)) {
+    Cutter cutter(transcriptText, start);
+    std::size_t done = start;
+    for (std::size_t at = nextChange(text, done); at < text.size(); at = nextChange(text, done)) {
         if (text[at] == '-') {
             done = std::min(text.find_first_not_of('-', at), text.size());
             cutter.cut(at, std::min(hyphensTaken(text.substr(0, at)), done - at));
@@ -124,6 +122,7 @@ void cleanTranscript(std::string &transcriptText) {
             cutter.cut(run + left, done - run - left);
         }
     }
+    cutter.finish();
 }
 
 } // namespace norvane

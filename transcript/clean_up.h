@@ -13,8 +13,8 @@ void cleanEntry(std::string &caption);
 /// cleanEntry on each; their number stays.
 void cleanEntries(TextArray &captions);
 
-/// The text passes over a composed transcript, in place: accent pairs, bars to blanks, and each run
-/// of n blanks to n / 8, rounded up.
-void cleanTranscript(std::string &transcriptText);
+/// The text passes over a composed transcript, from byte `start` on, where a line starts, in place:
+/// accent pairs, bars to blanks, and each run of n blanks to n / 8, rounded up.
+void cleanTranscript(std::string &transcriptText, std::size_t start = 0);
 
 } // namespace norvane

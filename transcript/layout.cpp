@@ -21,10 +21,15 @@ void TranscriptBody::add(std::string_view timecode, std::string_view caption) {
         put(caption, EndOfLine);
     else
         put(" "sv, caption);
+    constexpr std::size_t kWarm = std::size_t{1} << 14U; // bytes, which the cache still holds
+    if (form_ != Form::paragraph && text_.size() - clean_ >= kWarm) {
+        cleanTranscript(text_, clean_);
+        clean_ = text_.size();
+    }
 }
 
 std::string TranscriptBody::take() {
-    cleanTranscript(text_);
+    cleanTranscript(text_, clean_);
     return std::move(text_);
 }
 

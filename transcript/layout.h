@@ -24,6 +24,7 @@ class TranscriptBody {
   private:
     Form form_;
     std::string text_;
+    std::size_t clean_ = 0; // how much of it is done, up to an end of line
 };
 
 /// The first "," of a timecode becomes a ".".

@@ -28,24 +28,27 @@ class LineReader {
 
     /// The next line without its ending; the empty text at the end.
     std::string_view next() {
-        const std::size_t end = findAny<'\n', '\r'>(text_, position_);
-        const std::string_view line = text_.substr(position_, end - position_);
-        position_ = end;
-        ++number_;
-        const std::string_view ending = text_.substr(position_, 2);
-        position_ += ending == "\r\n" ? 2 : ending.empty() ? 0 : 1;
+        const std::size_t start = position_;
+        position_ = findAny<'\n', '\r'>(text_, start);
+        const std::string_view line(text_.data() + start, position_ - start);
+        passEnding();
         return line;
     }
 
     /// The next line that is not empty; the empty text at the end.
     std::string_view nextNotEmpty() {
-        std::string_view line;
-        while (line.empty() && !atEnd())
-            line = next();
-        return line;
+        while (!atEnd() && (text_[position_] == '\n' || text_[position_] == '\r'))
+            passEnding();
+        return atEnd() ? std::string_view() : next();
     }
 
   private:
+    void passEnding() {
+        ++number_;
+        if (!atEnd() && text_[position_++] == '\r' && !atEnd() && text_[position_] == '\n')
+            ++position_;
+    }
+
     std::string_view text_;
     std::size_t position_ = 0;
     std::size_t number_ = 0;

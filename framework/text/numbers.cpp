@@ -11,10 +11,6 @@ namespace norvane {
 
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// What a number that std::from_chars finds out of range is: infinite or nothing, by the decimal
 /// place of its first digit that counts.
 double outOfRangeValue(std::string_view number) {

@@ -127,12 +127,19 @@ std::size_t characterSize(std::string_view text) {
 
 bool isAscii(std::string_view text) {
     std::uint64_t all = 0;
-    for (std::uint64_t block = 0; text.size() >= sizeof block; text.remove_prefix(sizeof block)) {
-        std::memcpy(&block, text.data(), sizeof block);
+    const auto look = [&all](const char *place) {
+        std::uint64_t block = 0;
+        std::memcpy(&block, place, sizeof block);
         all |= block;
+    };
+    if (text.size() < sizeof all) {
+        for (const char c : text)
+            all |= static_cast<unsigned char>(c);
+    } else { // the last look overlaps
+        look(text.data() + text.size() - sizeof all);
+        for (; text.size() > sizeof all; text.remove_prefix(sizeof all))
+            look(text.data());
     }
-    for (const char c : text)
-        all |= static_cast<unsigned char>(c);
     return (all & 0x8080808080808080U) == 0;
 }
 

@@ -95,4 +95,9 @@ constexpr int hexDigitValue(char digit) {
     return kHexDigitValues[static_cast<unsigned char>(digit)];
 }
 
+/// Whether a character is one of the ten ASCII digits.
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 } // namespace norvane

@@ -8,6 +8,8 @@
 #include "transcript/clean_up.h"
 
 #include <csignal>
+#include <memory>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace norvane {
@@ -33,8 +35,22 @@ class SignalsWait {
     sigset_t before_{};
 };
 
+/// An empty text with room for `bytes` bytes, which costs nothing where it is not used. In large
+/// pages where the system has some: to hand out and clear small ones one by one took a tenth of the
+/// time of a file of 100 MB.
+std::string roomFor(std::size_t bytes) {
+    constexpr std::size_t kLargePage = std::size_t{2} << 20U;
+    std::string room;
+    room.reserve(bytes);
+    void *start = room.data();
+    std::size_t size = room.capacity();
+    if (std::align(kLargePage, kLargePage, start, size) != nullptr)
+        madvise(start, size - size % kLargePage, MADV_HUGEPAGE); // a wish, which may fail
+    return room;
+}
+
 std::string bodyOf(Input &input, const Options &options) {
-    TranscriptBody body(options.form, input.size()); // room costs nothing where it is not used
+    TranscriptBody body(options.form, roomFor(input.size()));
     std::string caption;
     const std::string foreign = foreignFormat(input.beginning());
     input.nextLine(); // the header

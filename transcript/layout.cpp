@@ -41,11 +41,11 @@ void correctComma(std::string &timecode) {
 std::string composeTranscript(Form form, TextArray &captions, TextArray &timecodes) {
     cleanEntries(captions);
     constexpr std::size_t kMostBesideTexts = 7; // bytes of brackets, tab and ends of line
-    TranscriptBody body(form, captions.byteCount() + timecodes.byteCount() +
-                                  captions.size() * kMostBesideTexts);
-    std::string timecode;
+    std::string room;
+    room.reserve(captions.byteCount() + timecodes.byteCount() + captions.size() * kMostBesideTexts);
+    TranscriptBody body(form, std::move(room));
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        timecode = timecodes[i];
+        std::string timecode(timecodes[i]);
         correctComma(timecode);
         timecodes.set(i, timecode);
         body.add(timecode, captions[i]);

@@ -12,8 +12,8 @@ enum class Form { timecode, line, paragraph };
 /// The body of a transcript, put together entry by entry.
 class TranscriptBody {
   public:
-    /// Makes room ahead for `bytes` bytes.
-    TranscriptBody(Form form, std::size_t bytes) : form_(form) { text_.reserve(bytes); }
+    /// Puts the body together in the room of `room`, an empty text.
+    TranscriptBody(Form form, std::string room) : form_(form), text_(std::move(room)) {}
 
     /// Adds an entry on which the entry passes were done.
     void add(std::string_view timecode, std::string_view caption);

@@ -96,5 +96,20 @@ TEST(Layout, InEachForm) {
     EXPECT_EQ(tooFew[0], "1.5"); // what was done before the failure stands, in every form
 }
 
+TEST(Layout, CleansALongBodyAsAWhole) {
+    const std::string bars(9, '|'); // in paragraph form one run through all entries
+    for (const Form form : {Form::timecode, Form::line, Form::paragraph}) {
+        TranscriptBody body(form, "");
+        std::string whole;
+        for (int i = 0; i < 5'000; ++i) {
+            body.add("1", bars);
+            whole += form == Form::paragraph ? " " + bars
+                     : form == Form::line    ? bars + "\n"
+                                             : "[1]\t" + bars + "\n\n";
+        }
+        EXPECT_EQ(body.take(), cleaned(whole));
+    }
+}
+
 } // namespace
 } // namespace norvane

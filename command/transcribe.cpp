@@ -39,13 +39,15 @@ class SignalsWait {
 /// pages where the system has some: to hand out and clear small ones one by one took a tenth of the
 /// time of a file of 100 MB.
 std::string roomFor(std::size_t bytes) {
-    constexpr std::size_t kLargePage = std::size_t{2} << 20U;
     std::string room;
     room.reserve(bytes);
+#ifdef MADV_HUGEPAGE
+    constexpr std::size_t kLargePage = std::size_t{2} << 20U;
     void *start = room.data();
     std::size_t size = room.capacity();
     if (std::align(kLargePage, kLargePage, start, size) != nullptr)
         madvise(start, size - size % kLargePage, MADV_HUGEPAGE); // a wish, which may fail
+#endif
     return room;
 }
 

@@ -31,7 +31,7 @@ TEST(Timecode, OfSeconds) {
         {3723.5, "01:02:03.50"},    {60, "00:01:00.00"},
         {600, "00:10:00.00"},       {3600, "01:00:00.00"},
         {36000, "10:00:00.00"},     {360000, "100:00:00.00"},
-        {59.996, "00:00:60.00"},    // the minute does not carry
+        {59.996, "00:00:60.00"},    // the minute stays
         {3599.9999, "01:00:00.00"}, // the quotient is rounded up, the negative rest is nothing
         {86399.99, "24:00:00.00"},  // three decimals of the quotient are left
         {-1, "00:00:00.00"},        {-0.001, "00:00:00.00"},

@@ -21,20 +21,32 @@ std::string saidBy(const SccLine &line, const SccWord &word) {
     return inQuotes(SaidLine(line).around(word.at, word.at + word.digits.size()).text);
 }
 
-/// A code that takes a column on the screen parts words; when it is deleted, they stand together.
+/// Whether a code parts on the screen what stands before it and behind it.
+bool parts(const CodeMeaning &meaning) {
+    return meaning.kind == CodeKind::midRow || meaning.kind == CodeKind::tabOffset ||
+           meaning.code == 0x142D; // CR
+}
+
+/// A code that parts words stands for nothing when it is deleted, so that they stand together.
 void adviseOnGluing(const SccLine &line, std::size_t code, std::vector<std::string> &advice) {
+    const auto isNothing = [&line](std::size_t word) {
+        return line.words[word].repeats || line.words[word].meaning.kind == CodeKind::filler;
+    };
+    std::size_t ahead = code;
     std::size_t behind = code + 1;
-    while (behind < line.words.size() && line.words[behind].repeats)
+    while (ahead > 0 && (ahead == code || isNothing(ahead)))
+        --ahead;
+    while (behind < line.words.size() && isNothing(behind))
         ++behind;
-    if (code == 0 || behind >= line.words.size())
+    if (behind >= line.words.size())
         return;
-    const SccWord &before = line.words[code - 1];
+    const SccWord &before = line.words[ahead];
     const SccWord &after = line.words[behind];
     if (isCharacters(before.meaning) && !before.meaning.shown.ends_with(' ') &&
         isCharacters(after.meaning) && !after.meaning.shown.starts_with(' ')) {
         advice.push_back(
-            std::string(line.words[code].digits) + " takes a column, which parts " +
-            saidBy(line, before) + " and " + saidBy(line, after) +
+            std::string(line.words[code].digits) + " parts " + saidBy(line, before) + " and " +
+            saidBy(line, after) +
             " on the screen, but the transcript has nothing for it: put a blank between them.");
     }
 }
@@ -47,19 +59,21 @@ void adviseOnEntry(const SccLine &line, const LineWalk &walk, std::vector<std::s
     for (std::size_t i = 0; i < line.words.size(); ++i) {
         const SccWord &word = line.words[i];
         const WordFate fate = walk.fateOf(i, 1);
-        const bool stands = !fate.text.empty() && !fate.isBlank && fate.swallowed.empty();
+        const bool stands =
+            !fate.text.empty() && !fate.isBlank && fate.swallowed.empty() && fate.kept.empty();
         if (isCharacter(word) && stands && word.repeats) {
             advice.push_back("“" + word.meaning.shown +
                              "” is sent twice, as codes are, and stands twice in the transcript: "
                              "take one out.");
         } else if (word.meaning.kind == CodeKind::extended && stands && i > 0 &&
-                   line.words[i - 1].meaning.kind == CodeKind::text) {
+                   line.words[i - 1].meaning.kind == CodeKind::text &&
+                   walk.fateOf(i - 1, 1).swallowed.empty()) {
             const std::string plain = lastCharacter(line.words[i - 1].meaning.shown);
             std::string text = "“" + word.meaning.shown + "” takes the place of the “";
             text.append(plain).append("” before it, which is for old decoders; the transcript has "
                                       "both: take “");
             advice.push_back(text.append(plain).append("” out."));
-        } else if (word.meaning.kind == CodeKind::midRow && !word.repeats && !stands) {
+        } else if (parts(word.meaning) && !word.repeats && !stands) {
             adviseOnGluing(line, i, advice);
         }
         hasStyle |=

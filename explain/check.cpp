@@ -1,5 +1,6 @@
 #include "explain/check.h"
 
+#include "decode/caption.h"
 #include "explain/check_codes.h"
 #include "explain/check_timecodes.h"
 #include "explain/refusal_help.h"
@@ -10,6 +11,23 @@
 namespace norvane {
 
 namespace {
+
+/// What the transcript leaves out of a line without a word, or why it cannot have the line.
+void lookAtEntry(const SccLine &line, Findings &findings) {
+    constexpr std::size_t kFirstTab = 1;
+    const std::size_t read = line.data.timecode.size() + kFirstTab + line.data.hexText.size();
+    if (read < line.text.size())
+        findings.add(line.number, FindingKind::tab,
+                     "What stands behind the second tab, " +
+                         startInQuotes(line.text.substr(read + 1)) +
+                         ", is not read: put a blank in the place of that tab.");
+    try {
+        std::string caption;
+        appendCaption(caption, line.data.hexText);
+    } catch (const OutOfBoundsException &failure) {
+        findings.add(line.number, FindingKind::word, noEntry(failure, line.data, Clock::scc));
+    }
+}
 
 /// What is wrong with the first line; the empty text when nothing is.
 std::string headerFault(std::string_view header) {
@@ -37,7 +55,7 @@ std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
     const std::string fault = foreign.empty() ? headerFault(reader.header()) : foreign;
     if (!fault.empty())
         findings.add(reader.headerNumber(), FindingKind::header, fault);
-    if (!foreign.empty())
+    if (!findings.list().empty() && !foreign.empty())
         return findings.list(); // all else would follow from that
     TimecodeCheck timecodes;
     CodeCheck codes(text);
@@ -53,6 +71,7 @@ std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
         timecodes.look(*line, findings);
         codes.look(*line, findings);
         columns.look(*line, findings);
+        lookAtEntry(*line, findings);
         if (findings.wants(FindingKind::digits) || findings.wants(FindingKind::altered))
             checkEntry(*line, LineWalk(*line), findings);
     }

@@ -185,6 +185,8 @@ void ColumnCheck::write(const SccWord &word, Row &row) {
     case CodeKind::control:
         if (code == 0x1421) // BS
             row.column = std::max(row.column - 1, 0L);
+        else if (code == 0x1428) // FON, which parts like a mid-row code
+            row.column += 1;
         break;
     default:
         break; // an extended character takes the place of the one before it

@@ -21,11 +21,12 @@ void TimecodeCheck::look(const SccLine &line, Findings &findings) {
         return;
     }
     const FrameTimecode &timecode = *line.timecode;
+    const bool exists = timecode.frames < 30 && !timecode.isDropped();
     if (timecode.frames >= 30) {
         findings.add(line.number, FindingKind::frame,
                      "There is no frame " + std::to_string(timecode.frames) +
                          ", since a second has the frames 00 to 29: correct the timecode.");
-    } else if (timecode.isDropped()) {
+    } else if (!exists) {
         findings.add(line.number, FindingKind::droppedFrame,
                      std::string(line.data.timecode) +
                          " does not exist: drop-frame leaves out the frames 00 and 01 of each "
@@ -43,7 +44,9 @@ void TimecodeCheck::look(const SccLine &line, Findings &findings) {
                          std::to_string(first_->line) + " behind " + mark(first_->timecode) +
                          ": ask which of them is meant.");
     }
-    if (before_) {
+    if (!exists)
+        return; // where it lies, nobody knows
+    if (before_ && before_->timecode.dropFrame == timecode.dropFrame) {
         const std::string place = "line " + std::to_string(before_->line);
         const long start = before_->timecode.count();
         const long end = start + before_->words;

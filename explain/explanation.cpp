@@ -40,6 +40,8 @@ std::optional<std::size_t> shownAt(const SccLine &line) {
     constexpr unsigned kEndOfCaption = 0x142F;
     for (std::size_t i = 0; i < line.words.size(); ++i) {
         const SccWord &word = line.words[i];
+        if (word.repeats)
+            continue;
         const bool isShownAtOnce = word.mode.starts_with("roll-up") || word.mode == "paint-on";
         if (word.meaning.code == kEndOfCaption || (isShownAtOnce && isCharacters(word.meaning)))
             return i;
@@ -54,6 +56,22 @@ std::vector<std::string> textsOf(const std::vector<Finding> &findings, std::size
             texts.push_back(finding.text);
     }
     return texts;
+}
+
+/// Where most of a file has wrong parity, one line tells it for all.
+void adviseOnParity(Explanation &explanation, const std::vector<Finding> &findings) {
+    const auto isWrong = [](const ExplainedWord &word) { return word.wrongParity; };
+    if (std::none_of(explanation.words.begin(), explanation.words.end(), isWrong))
+        return;
+    const Finding *told = nullptr;
+    for (const Finding &finding : findings) {
+        if (finding.kind == FindingKind::parity && told == nullptr)
+            told = &finding;
+        if (finding.kind == FindingKind::parity && finding.line == explanation.line.number)
+            return;
+    }
+    if (told != nullptr)
+        explanation.advice.push_back(told->text);
 }
 
 } // namespace
@@ -72,16 +90,17 @@ Explanation explain(const SccLine &line, Clock clock, const std::vector<Finding>
     Explanation explanation;
     explanation.line = line;
     explanation.advice = textsOf(findings, line.number);
-    if (line.refusal)
+    if (line.refusal) {
+        if (explanation.advice.empty() && !findings.empty())
+            explanation.advice.push_back(findings.front().text); // on a file of another format
         return explanation;
+    }
     TextArray timecodes;
     TextArray captions;
     try {
         appendEntry(line.data, clock, timecodes, captions);
     } catch (const OutOfBoundsException &failure) {
-        explanation.advice.insert(explanation.advice.begin(),
-                                  "No transcript can be written: " + std::string(failure.what()) +
-                                      " " + entryHelp(line.data, clock));
+        addOnce(explanation.advice, noEntry(failure, line.data, clock));
     }
     const LineWalk walk(line);
     if (!timecodes.empty())
@@ -90,6 +109,7 @@ Explanation explain(const SccLine &line, Clock clock, const std::vector<Finding>
         explanation.entry = walk.entry();
     explanation.words = explainWords(line, walk);
     explanation.shownAt = shownAt(line);
+    adviseOnParity(explanation, findings);
     Findings ofEntry{FindingKinds().set()};
     checkEntry(line, walk, ofEntry);
     for (const Finding &finding : ofEntry.list())
@@ -104,10 +124,11 @@ std::string became(const WordFate &fate) {
         text = "blank";
     else if (!fate.text.empty())
         text = inQuotes(fate.text);
-    if (!fate.swallowed.empty())
-        return text + (text.empty() ? "" : ", ") + fate.swallowed + " swallowed";
-    if (!fate.kept.empty())
-        return text + ", " + printable(fate.kept) + " kept";
+    for (const auto &[digits, what] :
+         {std::pair(fate.swallowed, " swallowed"), {printable(fate.kept), " kept"}}) {
+        if (!digits.empty())
+            text += (text.empty() ? "" : ", ") + digits + what;
+    }
     return !text.empty() ? text : fate.isShared ? "read with the word before" : "deleted";
 }
 

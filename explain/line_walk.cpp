@@ -37,6 +37,7 @@ void LineWalk::findCrossings(const TracedText &text) {
         if (change.row == kBlanksRow)
             continue;
         Crossing crossing{change.row, {}, {}};
+        std::vector<std::size_t> places;
         bool inStep = true;
         for (const TracedText::Place place : change.taken) {
             if (place >= text.sourceSize())
@@ -51,14 +52,15 @@ void LineWalk::findCrossings(const TracedText &text) {
                 crossing.parts.push_back({word, ""});
             crossing.parts.back().digits += digit;
             crossing.key += digit;
+            places.push_back(place);
             crossing.last = place;
         }
         const bool inCode = !crossing.parts.empty() && line_.words[crossing.parts[0].word].isCode;
         if (crossing.parts.size() <= 1 && (!inCode || inStep))
             continue;
         crossings_.push_back(crossing);
-        for (const Crossing::Part &part : crossing.parts)
-            swallowedOf_[part.word] += part.digits;
+        for (const std::size_t place : places)
+            swallowedOf_[wordAt(place)].insert(place);
     }
 }
 
@@ -84,8 +86,10 @@ WordFate LineWalk::fateOf(std::size_t first, std::size_t count) const {
         if (byte.untouched)
             fate.kept += byte.text;
     }
-    for (std::size_t word = first; word < first + count; ++word)
-        fate.swallowed += swallowedOf_[word];
+    for (std::size_t word = first; word < first + count; ++word) {
+        for (const std::size_t place : swallowedOf_[word])
+            fate.swallowed += line_.data.hexText[place];
+    }
     return fate;
 }
 

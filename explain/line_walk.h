@@ -3,6 +3,8 @@
 #include "explain/scc_line.h"
 #include "explain/traced_text.h"
 
+#include <set>
+
 namespace norvane {
 
 /// Digits that a row of the chain took from several words, or from the middle of one: a key that
@@ -63,7 +65,7 @@ class LineWalk {
     std::vector<Byte> bytes_;
     std::vector<std::vector<std::size_t>> bytesOf_; // by word: those of bytes_ that come from it
     std::vector<Crossing> crossings_;
-    std::vector<std::string> swallowedOf_; // by word
+    std::vector<std::set<std::size_t>> swallowedOf_; // by word: places of the hex text
 };
 
 } // namespace norvane

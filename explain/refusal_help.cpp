@@ -28,7 +28,7 @@ std::string foreignFormat(std::string_view text) {
     if (text.starts_with("WEBVTT"))
         return "These are WebVTT subtitles under the name of an SCC file: ask for the SCC file.";
     LineReader lines(text);
-    const std::string_view number = lines.next();
+    const std::string_view number = lines.nextNotEmpty();
     if (!number.empty() && holdsOnly(number, "0123456789") &&
         lines.next().find(" --> ") != std::string_view::npos)
         return "These are SubRip subtitles under the name of an SCC file: ask for the SCC file.";
@@ -61,6 +61,11 @@ std::string entryHelp(const DataLine &line, Clock clock) {
                    Split(ReplaceAll(line.timecode, ";", ":"), ":").size() < kFields
                ? "Write HH:MM:SS:FF, or take the timecodes as they stand with --clock scc."
                : "Characters are read in pairs: correct the words of this line.";
+}
+
+std::string noEntry(const OutOfBoundsException &failure, const DataLine &line, Clock clock) {
+    return "No transcript can be written: " + std::string(failure.what()) + " " +
+           entryHelp(line, clock);
 }
 
 } // namespace norvane

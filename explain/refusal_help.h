@@ -1,6 +1,7 @@
 #pragma once
 
 #include "decode/data_line.h"
+#include "framework/text/failures.h"
 
 #include <string>
 #include <string_view>
@@ -17,5 +18,8 @@ std::string refusalHelp(std::string_view line);
 
 /// What to do about a data line whose entry failed.
 std::string entryHelp(const DataLine &line, Clock clock);
+
+/// What a failure of an entry means, and what to do.
+std::string noEntry(const OutOfBoundsException &failure, const DataLine &line, Clock clock);
 
 } // namespace norvane

@@ -98,7 +98,8 @@ std::string reportOf(const Explanation &explanation, std::string_view file) {
         const std::string frame = "+" + std::to_string(word.frame);
         report += std::string(frame.size() < 4 ? 4 - frame.size() : 0, ' ') + frame + "  " +
                   padded(timesOf(word), wordWidth) + "  " + padded(word.service, 3) + "  " +
-                  padded(nameOf(word), nameWidth) + "  " + became(word.fate) + "\n";
+                  padded(nameOf(word), nameWidth) + "  " +
+                  (explanation.entry ? became(word.fate) : "lost") + "\n";
     }
     for (const std::string &advice : explanation.advice)
         report += "  " + advice + "\n";

@@ -3,6 +3,7 @@
 #include "decode/data_line.h"
 #include "framework/text/text.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -51,8 +52,13 @@ std::string shownName(const std::string &path) {
 Input::Input(const std::string &path)
     : name_(path == kStandardInput ? kStandardInputName : path.substr(path.rfind('/') + 1)),
       bytes_(kBlock) {
-    if (path == kStandardInput)
+    if (path == kStandardInput) {
+        struct stat status {};
+        const off_t start = lseek(STDIN_FILENO, 0, SEEK_CUR);
+        if (fstat(STDIN_FILENO, &status) == 0 && S_ISREG(status.st_mode) && start >= 0)
+            left_ = static_cast<std::size_t>(std::max(status.st_size - start, off_t{0}));
         return;
+    }
     file_ = openFile(path);
     if (!isSccName(name_))
         throw Problem{std::string(kNotSccMessage),
@@ -62,10 +68,11 @@ Input::Input(const std::string &path)
 bool Input::readSome() {
     if (file_)
         return file_->readSome(bytes_);
-    const ssize_t count = read(STDIN_FILENO, bytes_.rest(), bytes_.restSize());
+    const ssize_t count = read(STDIN_FILENO, bytes_.rest(), std::min(bytes_.restSize(), left_));
     if (count < 0)
         throw Problem{"cannot be read: " + std::generic_category().message(errno) + "."};
     bytes_.fill(static_cast<std::size_t>(count));
+    left_ -= static_cast<std::size_t>(count);
     return count > 0;
 }
 

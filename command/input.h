@@ -4,6 +4,7 @@
 #include "framework/files/disk.h"
 #include "framework/text/line_reader.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -48,6 +49,7 @@ class Input {
     Bytes bytes_;
     LineReader lines_{std::string_view()};
     bool ended_ = false;
+    std::size_t left_ = SIZE_MAX; // of standard input, where its size was known at the start
 };
 
 /// A path as the file system wants it. Throws Problem for the empty one.

@@ -7,8 +7,6 @@
 #include "framework/text/text.h"
 
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
 
 namespace norvane {
 namespace {
@@ -34,10 +32,10 @@ bool doTask(const std::string &argument, const Options &options) {
 
 int run(const Options &options) {
     if (!options.outputFolder.empty()) {
-        std::error_code error;
-        std::filesystem::create_directories(options.outputFolder, error);
-        if (error) {
-            tell(printable(options.outputFolder), {"cannot be made: " + error.message() + "."});
+        const std::string folder = absolutePath(options.outputFolder);
+        disk::makeFolders(folder);
+        if (disk::kindOf(folder, disk::Kind::other) != disk::Kind::folder) {
+            tell(printable(options.outputFolder), {"is not a folder and cannot be made one."});
             return 1;
         }
     }

@@ -86,6 +86,8 @@ void writeTo(const std::string &path, const std::string &heading, const std::str
     auto file = std::make_unique<disk::NewFile>(absolute, disk::Readers::byUmask, problem);
     if (!file->isOpen())
         throw Problem{problem};
+    if (!force)
+        file->mustBeNew();
     TextOutputStream stream(std::move(file));
     stream.WriteLine(heading);
     stream.WriteLine("");

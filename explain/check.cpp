@@ -16,11 +16,12 @@ namespace {
 void lookAtEntry(const SccLine &line, Findings &findings) {
     constexpr std::size_t kFirstTab = 1;
     const std::size_t read = line.data.timecode.size() + kFirstTab + line.data.hexText.size();
-    if (read < line.text.size())
+    if (read < line.text.size()) {
         findings.add(line.number, FindingKind::tab,
                      "What stands behind the second tab, " +
                          startInQuotes(line.text.substr(read + 1)) +
                          ", is not read: put a blank in the place of that tab.");
+    }
     try {
         std::string caption;
         appendCaption(caption, line.data.hexText);

@@ -39,8 +39,11 @@ void makeFolder(const std::string &path);
 /// Makes a folder and those above it that are missing. Whether it worked is not told.
 void makeFolders(const std::string &path);
 
-/// Removes a file or a link. Whether it worked is not told.
-void remove(const std::string &path);
+class InputFile;
+
+/// Removes a file or a link; where `read` is given, only when that is still what stands there, as
+/// it was opened. Whether it worked is not told.
+void remove(const std::string &path, const InputFile *read = nullptr);
 
 /// A lock on a folder, held until the handle is closed; nullopt when another has it, in this
 /// program or another. The handle is not open where the folder cannot be locked: nobody is kept out
@@ -63,6 +66,13 @@ class InputFile {
 
     bool isOpen() const { return handle_.isOpen(); }
 
+    /// Whether it is not open for another reason than that it is missing, no regular file, or not
+    /// for this user to read: a disk that fails, say.
+    bool hasFailed() const { return hasFailed_; }
+
+    /// Whether it stands at `place` and nobody has written to it since it was opened.
+    bool isAt(const Place &place) const;
+
     /// Fills the rest of `bytes`, or some of it; false at the end of the file. Throws IOException.
     bool readSome(Bytes &bytes);
 
@@ -83,6 +93,7 @@ class InputFile {
     Place place_;
     Handle handle_;
     std::size_t left_ = 0;
+    bool hasFailed_ = false;
 };
 
 /// Who may read and write a new file.
@@ -111,6 +122,9 @@ class NewFile : public TextSink {
 
     bool isOpen() const { return handle_.isOpen(); }
 
+    /// From here on it takes no other file's place: if one has come there, `commit` fails.
+    void mustBeNew() { isNew_ = true; }
+
     /// Throws IOException when not all could be written.
     void write(std::string_view bytes) override;
 
@@ -132,6 +146,7 @@ class NewFile : public TextSink {
     std::string temporary_; // empty while the file has no name
     Handle handle_;
     std::optional<mode_t> permissions_; // given at the end; without, the umask's
+    bool isNew_ = false;
 };
 
 /// Copies a regular file with its permission bits, whole or not at all; passes over anything else.

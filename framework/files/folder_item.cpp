@@ -1,6 +1,7 @@
 #include "framework/files/folder_item.h"
 
 #include "framework/files/disk.h"
+#include "framework/text/failures.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -21,17 +22,21 @@ std::string withEndSeparator(const std::string &path) {
     return path.ends_with(kSeparator) ? path : path + kSeparator;
 }
 
-Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers readers) {
+Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers readers,
+                                     bool mustBeNew) {
     std::string problem;
     auto file = std::make_unique<disk::NewFile>(path, readers, problem);
     if (!file->isOpen())
         return Ref<TextOutputStream>::nil(problem);
+    if (mustBeNew)
+        file->mustBeNew();
     return Ref(std::make_shared<TextOutputStream>(std::move(file)));
 }
 
 } // namespace
 
-FolderItem::FolderItem(std::string path) : path_(withoutEndSeparator(std::move(path))) {}
+FolderItem::FolderItem(std::string path)
+    : path_(withoutEndSeparator(path)), asFolder_(path.ends_with(kSeparator)) {}
 
 std::string FolderItem::Name() const {
     return path_.substr(path_.rfind(kSeparator) + 1);
@@ -42,7 +47,9 @@ std::string FolderItem::AbsolutePath() const {
 }
 
 bool FolderItem::Exists() const {
-    return disk::kindOf(path_) != disk::Kind::missing;
+    const disk::Kind kind = disk::kindOf(path_);
+    wasMissing_ = kind == disk::Kind::missing;
+    return !wasMissing_ && !(asFolder_ && kind == disk::Kind::foreignLink);
 }
 
 bool FolderItem::Directory() const {
@@ -86,7 +93,7 @@ void FolderItem::CopyFileTo(const FolderItem &target, CopyOf use) const {
 }
 
 void FolderItem::Delete() const {
-    disk::remove(path_);
+    disk::remove(path_, opened_.get());
 }
 
 std::optional<Handle> FolderItem::Lock() const {
@@ -94,19 +101,21 @@ std::optional<Handle> FolderItem::Lock() const {
 }
 
 Ref<TextOutputStream> FolderItem::CreateTextFile() const {
-    return createTextFile(path_, disk::Readers::byUmask);
+    return createTextFile(path_, disk::Readers::byUmask, wasMissing_);
 }
 
 Ref<TextOutputStream> FolderItem::CreatePrivateTextFile() const {
-    return createTextFile(path_, disk::Readers::userAlone);
+    return createTextFile(path_, disk::Readers::userAlone, false);
 }
 
 Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
     std::string problem;
-    auto file = std::make_shared<disk::InputFile>(path_, problem);
-    if (!file->isOpen())
+    opened_ = std::make_shared<disk::InputFile>(path_, problem);
+    if (opened_->hasFailed())
+        throw IOException(problem);
+    if (!opened_->isOpen())
         return Ref<TextInputStream>::nil(problem);
-    return Ref(std::make_shared<TextInputStream>([file] { return file->readAll(); }));
+    return Ref(std::make_shared<TextInputStream>([file = opened_] { return file->readAll(); }));
 }
 
 Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {

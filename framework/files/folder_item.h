@@ -5,12 +5,17 @@
 #include "framework/files/text_streams.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace norvane {
+
+namespace disk {
+class InputFile;
+} // namespace disk
 
 /// What the copy of a file is for: what goes is deleted later, and its copy must last through a
 /// power failure from the start.
@@ -33,8 +38,8 @@ class FolderItem {
     /// told whether it is one, as with a failing disk.
     std::string AbsolutePath() const;
 
-    /// False when there is nothing, or no folder that could hold it. Throws IOException when that
-    /// cannot be told.
+    /// False when there is nothing, or no folder that could hold it, or another user's link where
+    /// a folder was named. Throws IOException when that cannot be told.
     bool Exists() const;
 
     /// True for a folder; false also when that cannot be told.
@@ -61,7 +66,8 @@ class FolderItem {
     /// is not told.
     void CopyFileTo(const FolderItem &target, CopyOf use) const;
 
-    /// Deletes the file. Whether it worked is not told.
+    /// Deletes the file, but not one that this item opened and somebody has written to or replaced
+    /// since. Whether it worked is not told.
     void Delete() const;
 
     /// Keeps other cycles, in whatever program, out of this folder for as long as the handle lives;
@@ -70,14 +76,16 @@ class FolderItem {
 
     /// A stream whose text takes this item's place when it is closed; nil when it cannot be
     /// created. The new file has the permission bits of the one that it replaces, or those that the
-    /// user gives to new files.
+    /// user gives to new files. What was not there when Exists was last asked is not replaced when
+    /// it has come since: closing the stream fails.
     virtual Ref<TextOutputStream> CreateTextFile() const;
 
     /// The same, but a file where there was none is for its user's eyes alone.
     Ref<TextOutputStream> CreatePrivateTextFile() const;
 
-    /// A stream over the file's text; nil for whatever is no readable regular file. The text is
-    /// read when the stream is first asked for it, which throws IOException when that fails.
+    /// A stream over the file's text; nil for whatever is no regular file that the user may read.
+    /// The text is read when the stream is first asked for it. Both throw IOException when the disk
+    /// fails.
     virtual Ref<TextInputStream> OpenAsTextFile() const;
 
     /// Hands the file to the desktop, which opens it as it opens files of this kind.
@@ -87,7 +95,10 @@ class FolderItem {
     const std::vector<std::string> &listing() const;
 
     std::string path_; // without a separator at its end, but for the root
+    bool asFolder_;    // it was named with one
     mutable std::optional<std::vector<std::string>> listing_;
+    mutable bool wasMissing_ = false;
+    mutable std::shared_ptr<disk::InputFile> opened_;
 };
 
 /// The item at an absolute path; `mode` is 0, absolute path. Nil when the path is empty or not

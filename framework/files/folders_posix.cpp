@@ -95,8 +95,10 @@ void makeFolders(const std::string &path) {
     }
 }
 
-void remove(const std::string &path) {
+void remove(const std::string &path, const InputFile *read) {
     Place place;
+    if (read != nullptr && (findPlace(path, LastLink::follow, place) != 0 || !read->isAt(place)))
+        return;
     if (findPlace(path, LastLink::keep, place) == 0)
         systemCalls.unlinkat(place.folder.get(), place.name.c_str(), 0);
 }

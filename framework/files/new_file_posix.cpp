@@ -130,11 +130,19 @@ void NewFile::takePlace() {
         };
         if (linkTo(place_.name))
             return;
+        if (isNew_)
+            fail(errno);
         nameTemporary(); // only a file with a name can replace another
         if (!linkTo(temporary_))
             fail(errno);
     }
 #endif
+    if (isNew_) { // the temporary goes with this object
+        if (systemCalls.linkat(folder, temporary_.c_str(), folder, place_.name.c_str(), 0) == 0)
+            return;
+        if (errno == EEXIST)
+            fail(errno);
+    } // else it has no links, so that all it can do is to rename
     if (systemCalls.renameat(folder, temporary_.c_str(), folder, place_.name.c_str()) != 0)
         fail(errno);
     temporary_.clear();

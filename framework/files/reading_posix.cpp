@@ -4,6 +4,7 @@
 #include "framework/text/text.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace norvane::disk {
 
@@ -25,6 +26,15 @@ InputFile::InputFile(const std::string &path, std::string &problem) : path_(path
     problem = inQuotes(path) +
               (error != 0 ? " cannot be opened: " + reason(error) + "." : whyNoFile(place_));
     handle_.close();
+    hasFailed_ = error != 0 && error != ENOENT && error != ENOTDIR && error != EACCES &&
+                 error != ENAMETOOLONG && error != ELOOP;
+}
+
+bool InputFile::isAt(const Place &place) const {
+    const auto identity = [](const struct stat &status) {
+        return std::tuple(status.st_dev, status.st_ino, status.st_size, status.st_mtime);
+    };
+    return identity(place.status) == identity(place_.status);
 }
 
 bool InputFile::readSome(Bytes &bytes) {

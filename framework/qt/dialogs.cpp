@@ -1,5 +1,6 @@
 #include "framework/qt/dialogs.h"
 
+#include "framework/files/disk.h"
 #include "framework/qt/qt_text.h"
 
 #include <QApplication>
@@ -71,7 +72,9 @@ Ref<FolderItem> Dialogs::saveFile(const std::string &fileType, const std::string
         QString path = dialog.path();
         if (!QFileInfo(path).fileName().contains(u'.'))
             path += QStringLiteral(".txt");
-        if (!QFileInfo::exists(path) || mayReplace(QFileInfo(path).fileName()))
+        if (disk::kindOf(QFile::encodeName(path).toStdString(), disk::Kind::other) ==
+                disk::Kind::missing ||
+            mayReplace(QFileInfo(path).fileName()))
             return chosen(path, QFileInfo(path).path());
     }
 }

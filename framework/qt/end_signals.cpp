@@ -36,8 +36,12 @@ void onEndSignals(QObject &owner, std::function<void()> end) {
     struct sigaction action {};
     action.sa_handler = noteSignal;
     action.sa_flags = SA_RESTART;
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        sigaction(signal, &action, nullptr);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction before {};
+        sigaction(signal, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) // as nohup has it
+            sigaction(signal, &action, nullptr);
+    }
 }
 
 } // namespace norvane

@@ -19,6 +19,11 @@ class ArrowWidget : public QAbstractButton {
     void setPointsDown(bool down) {
         pointsDown_ = down;
         update();
+        QAccessible::State changed;
+        changed.expanded = true;
+        changed.collapsed = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        QAccessible::updateAccessibility(&event);
     }
 
   protected:

@@ -2,6 +2,7 @@
 
 #include "framework/files/disk.h"
 #include "framework/qt/qt_text.h"
+#include "framework/text/text.h"
 
 #include <QApplication>
 #include <QFile>
@@ -32,7 +33,12 @@ class NameDialog : public QFileDialog {
         const auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
         const bool hasQuotes = edit != nullptr && edit->text().contains(u'"');
         quoted_ = hasQuotes ? directory().filePath(edit->text()) : QString();
-        if (hasQuotes && (acceptMode() == AcceptSave || QFileInfo::exists(quoted_)))
+        const QFileInfo info(quoted_);
+        const bool wantsFolder = fileMode() == Directory;
+        if (hasQuotes && info.isDir() && !wantsFolder)
+            setDirectory(quoted_);
+        else if (hasQuotes &&
+                 (acceptMode() == AcceptSave || (info.exists() && info.isDir() == wantsFolder)))
             done(QDialog::Accepted);
         else
             QFileDialog::accept();
@@ -72,10 +78,15 @@ Ref<FolderItem> Dialogs::saveFile(const std::string &fileType, const std::string
         QString path = dialog.path();
         if (!QFileInfo(path).fileName().contains(u'.'))
             path += QStringLiteral(".txt");
+        const QString folder = QFileInfo(path).path();
+        if (!QFileInfo(folder).isDir()) {
+            message(QMessageBox::Warning, inQuotes(folder.toStdString()) + " is not a folder.");
+            continue;
+        }
         if (disk::kindOf(QFile::encodeName(path).toStdString(), disk::Kind::other) ==
                 disk::Kind::missing ||
             mayReplace(QFileInfo(path).fileName()))
-            return chosen(path, QFileInfo(path).path());
+            return chosen(path, folder);
     }
 }
 

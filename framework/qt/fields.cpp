@@ -46,6 +46,8 @@ QWidget *makeTextField(TextField &field, QWidget *parent) {
         const QSignalBlocker noEcho(widget);
         widget->setText(text);
     });
+    // Whoever types through the accessibility interface asks for this alone.
+    follow(field.Enabled, widget, [&field, widget] { widget->setReadOnly(!field.Enabled); });
     QObject::connect(widget, &QLineEdit::textChanged,
                      [&field](const QString &text) { field.Text = text.toStdString(); });
     return widget;

@@ -164,6 +164,8 @@ void WindowPeer::keyPressEvent(QKeyEvent *event) {
 
 /// A press close by an arrow, on nothing else, is a press on the arrow, which is small.
 void WindowPeer::mousePressEvent(QMouseEvent *event) {
+    if (event->button() != Qt::LeftButton)
+        return;
     const int around = look_.scale.pixels(4);
     const QPoint point = area_->mapFrom(this, event->position().toPoint());
     for (const auto &[control, widget] : placed_) {

@@ -96,6 +96,44 @@ TEST_F(Files, AFileIsWrittenWholeOrNotAtAll) {
     EXPECT_FALSE(FolderItem(folder.path("none/a.txt")).CreateTextFile());
 }
 
+TEST_F(Files, WhatCameSinceTheLookStays) {
+    for (const bool nameless : {true, false}) {
+        if (!nameless)
+            disk::systemCalls.faccessat = {[](int, const char *, int, int) { return -1; }};
+        for (const bool comes : {false, true}) {
+            const std::string name = std::to_string(nameless) + std::to_string(comes);
+            const auto item = folder.item(name);
+            EXPECT_FALSE(item->Exists());
+            const auto stream = item->CreateTextFile();
+            stream->WriteLine("mine");
+            if (comes)
+                folder.write(name, "theirs");
+            if (comes)
+                EXPECT_THROW(stream->Close(), IOException);
+            else
+                stream->Close();
+            EXPECT_EQ(folder.read(name), comes ? "theirs" : "mine\n");
+        }
+    }
+    EXPECT_EQ(folder.tree(), (Lines{"00", "01", "10", "11"}));
+    for (const bool replaced : {false, true}) {
+        folder.write("input", "old");
+        const auto item = folder.item("input");
+        item->OpenAsTextFile();
+        folder.write("other", replaced ? "new" : "longer");
+        if (replaced)
+            std::filesystem::rename(folder.path("other"), folder.path("input"));
+        else
+            std::filesystem::copy_file(folder.path("other"), folder.path("input"),
+                                       std::filesystem::copy_options::overwrite_existing);
+        item->Delete();
+        EXPECT_TRUE(folder.has("input"));
+        item->OpenAsTextFile();
+        item->Delete();
+        EXPECT_FALSE(folder.has("input"));
+    }
+}
+
 TEST_F(Files, WhatAKilledWriterLeftIsRemovedAndNoOthers) {
     folder.write(".norvane-1.part", "half");
     folder.write(".norvane-2.part", "at work");
@@ -248,6 +286,7 @@ TEST_F(Files, OnlyLinksOfTheUserAndOfRootAreFollowed) {
         EXPECT_EQ(folder.has("copy" + suffix), followed);
         EXPECT_EQ(bool(folder.item("")->Child("keys" + suffix)), followed);
         EXPECT_EQ(folder.item("folder" + suffix)->Directory(), followed);
+        EXPECT_EQ(folder.item("folder" + suffix + "/")->Exists(), followed);
         EXPECT_EQ(folder.item("folder" + suffix)->Count(), followed ? 1U : 0U);
         EXPECT_EQ(bool(folder.item("folder" + suffix + "/keys")), followed);
         return followed;

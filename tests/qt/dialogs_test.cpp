@@ -53,6 +53,12 @@ TEST_F(DialogsAndDesktop, TheFinalNameIsWhatIsReplaced) {
     folder.write("a.scc", sample_);
     folder.write("plain", "kept");
     folder.write("old.txt", "");
+    answerPath(folder.path("a.scc"));
+    answerPath(folder.path("none/a"));
+    confirm();
+    cancel();
+    click("BevelButton1");
+    EXPECT_EQ(std::exchange(messages, {}), Lines{"“" + folder.path("none") + "” is not a folder."});
     setOpener("echo \"$1\" >\"$0.told\"");
     answerPath(folder.path("a.scc"));
     answerPath(folder.path("plain"));

@@ -171,6 +171,8 @@ TEST_F(MainWindow, ScreenReadersAreToldAndAct) {
     EXPECT_EQ(toldOf("Separator1")->role(), QAccessible::Separator);
     for (const char *switched : {"ParagraphBox", "RadioButton2"})
         toldOf(switched)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(at<QLineEdit>("TextField1")->isReadOnly());
+    EXPECT_FALSE(at<QLineEdit>("timerText")->isReadOnly());
     EXPECT_EQ(boxes(), "001");
     EXPECT_FALSE(window().LineBox.Value);
     expectRadioButtons(false, true);
@@ -211,6 +213,8 @@ TEST_F(MainWindow, TheArrowTakesPressesAroundIt) {
     for (const auto &[point, hits] : kPoints) {
         const int height = window().Height;
         at("LineBox")->setFocus();
+        QTest::mouseClick(area, Qt::RightButton, {}, point);
+        EXPECT_EQ(window().Height, height);
         QTest::mouseClick(area, Qt::LeftButton, {}, point);
         EXPECT_EQ(window().Height != height, hits) << point.x() << ' ' << point.y();
         EXPECT_EQ(focus(), hits ? "PopupArrow1" : "LineBox");

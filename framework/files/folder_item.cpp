@@ -35,7 +35,7 @@ Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers read
 
 } // namespace
 
-FolderItem::FolderItem(std::string path)
+FolderItem::FolderItem(const std::string &path)
     : path_(withoutEndSeparator(path)), asFolder_(path.ends_with(kSeparator)) {}
 
 std::string FolderItem::Name() const {

@@ -29,7 +29,7 @@ class FolderItem {
     virtual ~FolderItem() = default;
 
     /// The item at an absolute path; GetFolderItem and Child are the ways to have one.
-    explicit FolderItem(std::string path);
+    explicit FolderItem(const std::string &path);
 
     /// The last part of the path, extension included.
     std::string Name() const;

@@ -32,6 +32,14 @@ bool isDark(const QStyleOption &option) {
 
 } // namespace
 
+ControlStyle::ControlStyle(QStyle *desktopStyle, const Scale &scale)
+    : QProxyStyle(desktopStyle), scale_(scale) {
+    QStyleOptionButton box;
+    box.rect = {0, 0, 1000, 100};
+    marksGrow_ = QProxyStyle::subElementRect(SE_CheckBoxContents, &box, nullptr).left() >=
+                 ControlStyle::pixelMetric(PM_IndicatorWidth, &box, nullptr);
+}
+
 void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -68,7 +76,7 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return scale_.pixels(size);
+        return marksGrow_ ? scale_.pixels(size) : size;
     default:
         return size;
     }

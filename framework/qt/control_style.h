@@ -12,8 +12,7 @@ namespace norvane {
 class ControlStyle : public QProxyStyle {
   public:
     /// Owns `desktopStyle`.
-    ControlStyle(QStyle *desktopStyle, const Scale &scale)
-        : QProxyStyle(desktopStyle), scale_(scale) {}
+    ControlStyle(QStyle *desktopStyle, const Scale &scale);
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
@@ -24,6 +23,7 @@ class ControlStyle : public QProxyStyle {
 
   private:
     Scale scale_;
+    bool marksGrow_ = true; // not in a style that would put the captions on them
 };
 
 } // namespace norvane

@@ -5,10 +5,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QStyleOptionButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,13 +36,25 @@ bool fits(const QLabel &label, int room) {
     return label.heightForWidth(room) - emptyEnd <= label.height();
 }
 
-/// Sets the text of a label closer, within reason, until it fits the width of `room`.
-void tighten(QLabel &label, int room) {
+/// Whether the caption of a check box or radio button has the room for it.
+bool fitsItself(const QAbstractButton &button) {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    const auto contents = qobject_cast<const QCheckBox *>(&button) != nullptr
+                              ? QStyle::SE_CheckBoxContents
+                              : QStyle::SE_RadioButtonContents;
+    return button.fontMetrics().horizontalAdvance(button.text()) <=
+           button.style()->subElementRect(contents, &option, &button).width();
+}
+
+/// Sets the text of a widget closer, within reason, until it fits.
+template <class Fits>
+void tighten(QWidget &widget, Fits fits) {
     constexpr int kTightest = 90; // percent
-    QFont font = label.font();
-    for (int percent = 99; percent >= kTightest && !fits(label, room); --percent) {
+    QFont font = widget.font();
+    for (int percent = 99; percent >= kTightest && !fits(); --percent) {
         font.setLetterSpacing(QFont::PercentageSpacing, percent);
-        label.setFont(font);
+        widget.setFont(font);
     }
 }
 
@@ -88,6 +102,9 @@ void WindowPeer::addControls() {
 void WindowPeer::keepLabelsClear() {
     constexpr int kGap = 3;
     for (const Placed &placed : placed_) {
+        auto *button = qobject_cast<QAbstractButton *>(placed.widget);
+        if (button != nullptr && button->isCheckable())
+            tighten(*button, [button] { return fitsItself(*button); });
         auto *label = qobject_cast<QLabel *>(placed.widget);
         if (label == nullptr)
             continue;
@@ -98,7 +115,7 @@ void WindowPeer::keepLabelsClear() {
             if (place.left() > start.x() && place.contains(place.left(), start.y()))
                 room = std::min(room, place.left() - start.x() - kGap);
         }
-        tighten(*label, room);
+        tighten(*label, [label, room] { return fits(*label, room); });
     }
 }
 

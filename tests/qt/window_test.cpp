@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QCheckBox>
 #include <QLabel>
 #include <QProxyStyle>
 #include <QSignalBlocker>
@@ -272,6 +273,16 @@ struct Borderless : QProxyStyle {
     }
 };
 
+TEST_F(MainWindow, MarksGrowWhereTheirCaptionsMakeRoom) {
+    const auto markOf = [](QStyle *style, int fontPixels) {
+        return ControlStyle(style, Scale(fontPixels))
+            .pixelMetric(QStyle::PM_IndicatorWidth, nullptr, nullptr);
+    };
+    const int mark = markOf(new QProxyStyle, 13);
+    EXPECT_EQ(markOf(new QProxyStyle, 26), 2 * mark);
+    EXPECT_EQ(markOf(new Borderless, 26), mark);
+}
+
 double luminance(const QColor &colour) {
     const auto linear = [](float part) { return std::pow((part + 0.055) / 1.055, 2.4); };
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
@@ -329,7 +340,11 @@ TEST_F(MainWindow, PicturesArrowAndBarAreDrawn) {
 TEST_F(MainWindow, LabelsAreSetCloserBeforeTheirLinesBreak) {
     struct : Window {
         Label label;
-        void fill(int width, int height) { add(label, "Close", 0, 0, width, height); }
+        CheckBox box;
+        void fill(int width, int height, int boxWidth) {
+            add(label, "Close", 0, 0, width, height);
+            add(box, "Box", 0, 100, boxWidth, 20);
+        }
     } narrow;
     const QFontMetrics metrics = at("Label2")->fontMetrics();
     narrow.label.Text = "a line of its own\rand another line\r";
@@ -337,11 +352,16 @@ TEST_F(MainWindow, LabelsAreSetCloserBeforeTheirLinesBreak) {
     const int width =
         metrics.size(0, QStringLiteral("a line of its own\nand another line")).width();
     const int twoLines = 2 * metrics.lineSpacing() + 4; // as laid out, lines are a little higher
-    narrow.fill(width * 98 / 100, twoLines);
+    const QCheckBox wide(QStringLiteral("a line of its own"));
+    narrow.box.Caption = "a line of its own";
+    narrow.fill(width * 98 / 100, twoLines, wide.sizeHint().width() * 96 / 100);
     narrow.Show();
     const auto *label = desktop.peerOf(narrow)->findChild<QLabel *>();
     EXPECT_LE(label->heightForWidth(label->width()), twoLines + metrics.lineSpacing());
     EXPECT_GT(label->font().letterSpacing(), 90);
+    const auto *box = desktop.peerOf(narrow)->findChild<QCheckBox *>();
+    EXPECT_LT(box->fontMetrics().horizontalAdvance(box->text()),
+              at("LineBox")->fontMetrics().horizontalAdvance(box->text()));
 }
 
 TEST_F(MainWindow, AControlOfAnUnknownKindIsAnError) {

@@ -78,7 +78,12 @@ TEST_F(Actions, DialogsCancelledAtEveryPoint) {
     confirm();
     click("BevelButton7");
     EXPECT_EQ(messages, Lines{"No folder selected."});
-    answerPath(folder.path());
+    answers([this](QWidget &dialog) {
+        EXPECT_TRUE(dynamic_cast<QFileDialog &>(dialog).testOption(QFileDialog::ShowDirsOnly));
+        auto *edit = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        edit->setText(QString::fromStdString(folder.path()));
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
     click("BevelButton6");
     EXPECT_EQ(at<QLineEdit>("TextField1")->text().toStdString(), folder.path());
     EXPECT_EQ(window().hotFolder, folder.path());

@@ -23,6 +23,7 @@ class DialogsAndDesktop : public Desk {
     }
     void replaceOrNot(QMessageBox::StandardButton choice) {
         answers([choice](QWidget &box) {
+            EXPECT_EQ(dynamic_cast<QMessageBox &>(box).textFormat(), Qt::PlainText);
             if (choice == QMessageBox::No) // which is what Return means
                 QTest::keyClick(&box, Qt::Key_Return);
             else

@@ -17,6 +17,7 @@ class DialogsAndDesktop : public Desk {
             const auto &dialog = dynamic_cast<QFileDialog &>(widget);
             auto *edit = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
             EXPECT_EQ(edit->text().toStdString(), name);
+            EXPECT_EQ(dialog.acceptMode() == QFileDialog::AcceptSave, !name.empty());
             EXPECT_EQ(dialog.nameFilters(), QStringList({filter, "All files (*)"}));
             QTest::keyClick(edit, Qt::Key_Return);
         });

@@ -76,7 +76,7 @@ constexpr CrossingKeys kCrossingKeys = [] {
     Trie trie;
     for (std::size_t row = kBlanksRow + 1; row <= kLastWalkedRow; ++row) {
         const std::string_view key = kReplacementChain[row - 1].key;
-        if (hexDigitValue(key[0]) >= 0)
+        if (isHexDigit(key[0]))
             trie.addBeginningsOf(key);
     }
     CrossingKeys keys;

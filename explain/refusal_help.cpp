@@ -12,7 +12,8 @@ bool holdsOnly(std::string_view text, std::string_view characters) {
     return text.find_first_not_of(characters) == std::string_view::npos;
 }
 
-constexpr std::string_view kNul{"\0", 1};
+using namespace std::string_view_literals;
+constexpr std::string_view kNul = "\0"sv;
 
 } // namespace
 

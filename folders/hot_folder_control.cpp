@@ -77,7 +77,7 @@ void Window1::CheckBox1_Action() {
 }
 
 void Window1::Timer1_Action() {
-    const Ref<FolderItem> folder = GetFolderItem(hotFolder, 0);
+    const Ref<FolderItem> folder = GetFolderItem(hotFolder);
     if (!folder || !folder->Directory())
         return;
     Timer1.Mode = 0; // no tick while the cycle lasts; a cycle that fails leaves it so

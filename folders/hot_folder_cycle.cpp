@@ -12,7 +12,7 @@ std::vector<std::string> copyAndList(const FolderItem &watchItem, const FolderIt
     for (std::size_t i = 1; i <= watchItem.Count(); ++i) {
         const Ref<FolderItem> item = watchItem.Item(i);
         const bool goes = Window1::isSccName(item->Name());
-        item->CopyFileTo(*GetFolderItem(copies + item->Name(), 0),
+        item->CopyFileTo(*GetFolderItem(copies + item->Name()),
                          goes ? CopyOf::whatGoes : CopyOf::whatStays);
         if (goes)
             sourceList.push_back(item->AbsolutePath());
@@ -30,7 +30,7 @@ void Window1::importSCCFolder() {
     if (destFolder.empty())
         promptForFolder("Please select a destination folder for decoded files.", destFolder,
                         TextField2);
-    const Ref<FolderItem> watchItem = GetFolderItem(hotFolder, 0);
+    const Ref<FolderItem> watchItem = GetFolderItem(hotFolder);
     if (!watchItem || !watchItem->Exists()) {
         MsgBox("Could not locate the Watch folder. Please use the Browse button and reselect it.");
         return;
@@ -43,7 +43,7 @@ void Window1::importSCCFolder() {
     std::vector<std::string> sourceList;
     if (watchItem->Directory()) {
         TextField1.Text = watchItem->AbsolutePath();
-        const Ref<FolderItem> copyFolder = GetFolderItem(destFolder, 0)->Child("scc files");
+        const Ref<FolderItem> copyFolder = GetFolderItem(destFolder)->Child("scc files");
         if (!copyFolder) {
             MsgBox("Could not locate the Destination folder. Please use the Browse button and "
                    "reselect it.");
@@ -57,7 +57,7 @@ void Window1::importSCCFolder() {
     ProgressText.Text = "";
 
     for (const std::string &source : sourceList) {
-        const Ref<FolderItem> sourceItem = GetFolderItem(source, 0);
+        const Ref<FolderItem> sourceItem = GetFolderItem(source);
         fileName = sourceItem->Name();
         const Ref<TextInputStream> sourceStream = sourceItem->OpenAsTextFile();
         if (sourceStream && !decodeLines(*sourceStream))

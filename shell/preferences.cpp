@@ -39,9 +39,9 @@ void App::GetPrefs() {
     Window1 &window = Window1::the();
     prefsUnread_ = true;
     const Ref<FolderItem> folder = SpecialFolder::Preferences();
-    const auto file = folder ? folder->Child(kFile) : Ref<FolderItem>::nil("no folder.");
+    const auto file = folder ? folder->Child(kFile) : folder;
     const bool exists = file && file->Exists();
-    const auto stream = exists ? file->OpenAsTextFile() : Ref<TextInputStream>::nil("no file.");
+    const auto stream = exists ? file->OpenAsTextFile() : Ref<TextInputStream>::nil("");
     if (!stream) {
         prefsUnread_ = false;
         return;

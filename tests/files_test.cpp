@@ -38,11 +38,11 @@ TEST_F(Files, PathsThatLeadSomewhere) {
     const std::string nul("/tmp/a\0b", 8);
     for (const std::string &path : {std::string(), std::string("file"), std::string("./file"), nul,
                                     folder.path("none/file"), folder.path("file/under")})
-        EXPECT_FALSE(GetFolderItem(path, 0)) << path;
-    EXPECT_FALSE(GetFolderItem(folder.path("none"), 0)->Exists());
-    EXPECT_EQ(GetFolderItem("/", 0)->AbsolutePath(), "/");
-    EXPECT_EQ(GetFolderItem("/tmp", 0)->AbsolutePath(), "/tmp/");
-    EXPECT_EQ(GetFolderItem("/tmp//", 0)->Name(), "tmp");
+        EXPECT_FALSE(GetFolderItem(path)) << path;
+    EXPECT_FALSE(GetFolderItem(folder.path("none"))->Exists());
+    EXPECT_EQ(GetFolderItem("/")->AbsolutePath(), "/");
+    EXPECT_EQ(GetFolderItem("/tmp")->AbsolutePath(), "/tmp/");
+    EXPECT_EQ(GetFolderItem("/tmp//")->Name(), "tmp");
     EXPECT_EQ(folder.item("file")->AbsolutePath(), folder.path("file"));
 
     const auto top = folder.item("");

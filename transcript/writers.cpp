@@ -20,7 +20,7 @@ void Window1::doTranscTimecode() {
         ProgressBar1.Visible = false;
         captionArray2.clear(); // kept: on Cancel both arrays stay as they are
         timeCodeArray.clear();
-        GetFolderItem(transcriptItem->AbsolutePath(), 0)->Launch(true);
+        GetFolderItem(transcriptItem->AbsolutePath())->Launch(true);
     }
     hideProgress();
 }
@@ -39,9 +39,9 @@ void Window1::DoTranscTimecodeFileSingle() {
 void Window1::DoTranscTimecodeFile() {
     const std::string transcriptText = composeTranscript();
     const std::string path = destFolder + baseNameOf(fileName);
-    Ref<FolderItem> transcriptItem = GetFolderItem(path + ".txt", 0);
+    Ref<FolderItem> transcriptItem = GetFolderItem(path + ".txt");
     if (transcriptItem->Exists()) // kept: one test and no loop, so an older "_1" is replaced
-        transcriptItem = GetFolderItem(path + "_1.txt", 0);
+        transcriptItem = GetFolderItem(path + "_1.txt");
     if (transcriptItem) {
         writeTranscript(*transcriptItem, fileName, transcriptText);
         captionArray2.clear(); // kept: timeCodeArray is the caller's to empty

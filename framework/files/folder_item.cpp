@@ -137,7 +137,7 @@ Ref<FolderItem> SpecialFolder::Preferences() {
     disk::makeFolders(path);
     if (disk::kindOf(path) != disk::Kind::folder)
         return Ref<FolderItem>::nil(inQuotes(path) + " is not a folder and cannot be made one.");
-    return GetFolderItem(path, 0);
+    return GetFolderItem(path);
 }
 
 } // namespace norvane

@@ -104,7 +104,7 @@ class FolderItem {
 /// The item at an absolute path; `mode` is 0, absolute path. Nil when the path is empty or not
 /// absolute or holds a NUL, or its folder is missing; what cannot be looked at, as on a failing
 /// disk, counts as existing here, and its use fails.
-Ref<FolderItem> GetFolderItem(const std::string &path, int mode);
+Ref<FolderItem> GetFolderItem(const std::string &path, int mode = 0);
 
 namespace SpecialFolder {
 

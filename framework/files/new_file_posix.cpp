@@ -116,7 +116,6 @@ void NewFile::finish(Lasting lasting) {
     takePlace();
     if (lasting == Lasting::yes)
         flushNames(place_, path_);
-    handle_.close();
 }
 
 void NewFile::takePlace() {

@@ -10,7 +10,7 @@ namespace norvane::disk {
 /// Where a path leads: a name in a folder that is held open. A look at it and the use that follows
 /// concern the same folder, whatever others do to the path meanwhile.
 struct Place {
-    Handle folder;    // for calls that take a folder and a name, not to be read; none for the root
+    Handle folder;    // for calls that take a folder and a name, not to be read; any for the root
     std::string name; // "." when it is the folder itself
     struct stat status {}; // of what stands there; its mode is 0 when nothing does
 

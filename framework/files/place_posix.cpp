@@ -40,8 +40,7 @@ int findPlace(std::string path, LastLink lastLink, Place &place) {
         place.name = path.substr(slash + 1);
         path.clear();
     } else {
-        place.folder = Handle();
-        place.name = "/";
+        place.name = "/"; // whatever the folder
     }
     int links = 0;
     for (;;) { // `path` is what lies behind the name
@@ -58,10 +57,7 @@ int findPlace(std::string path, LastLink lastLink, Place &place) {
             if (target.empty() || ++links > kMostLinks)
                 return target.empty() ? errno : ELOOP;
             path.insert(0, target + "/");
-            const bool fromRoot = target.front() == '/';
-            place.name = fromRoot ? "/" : ".";
-            if (fromRoot)
-                place.folder = Handle();
+            place.name = target.front() == '/' ? "/" : ".";
             continue;
         }
         if (last)

@@ -161,17 +161,11 @@ void QtDesktop::remove(Timer &timer) {
 void QtDesktop::timersChanged() {
     constexpr TimePoint kLongestWait = std::numeric_limits<int>::max();
     TimePoint wait = kLongestWait;
-    bool waiting = false;
     for (const Timer *timer : timers_) {
-        if (!timer->due())
-            continue;
-        waiting = true;
-        wait = std::min(wait, std::max<TimePoint>(*timer->due() - now(), 0));
+        if (timer->due())
+            wait = std::min(wait, std::max<TimePoint>(*timer->due() - now(), 0));
     }
-    if (waiting)
-        alarm_.start(static_cast<int>(wait));
-    else
-        alarm_.stop();
+    alarm_.start(static_cast<int>(wait)); // when none is due, it comes in vain
 }
 
 void QtDesktop::raiseTicks() {

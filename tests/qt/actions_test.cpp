@@ -29,6 +29,7 @@ class Actions : public Desk {
 };
 
 TEST_F(Actions, MenusAreTheProgramsOwnAndQuitEndsIt) {
+    EXPECT_FALSE(at<QAction>("EditCut")->isEnabled());
     std::string menus;
     for (const QAction *top : peer()->findChild<QMenuBar *>()->actions()) {
         menus += top->text().toStdString() + ":";

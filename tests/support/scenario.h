@@ -23,7 +23,7 @@ class TemporaryFolder {
 
     /// The path of a name in it; with "" the folder itself, ending in the separator.
     std::string path(const std::string &name = "") const { return path_ + name; }
-    Ref<FolderItem> item(const std::string &name) const { return GetFolderItem(path(name), 0); }
+    Ref<FolderItem> item(const std::string &name) const { return GetFolderItem(path(name)); }
 
     /// Makes the file, and the folders that it needs.
     void write(const std::string &name, const std::string &text) const;

@@ -29,6 +29,9 @@ class Actions : public Desk {
 };
 
 TEST_F(Actions, MenusAreTheProgramsOwnAndQuitEndsIt) {
+    EXPECT_EQ(QApplication::applicationName(), "Norvane");
+    EXPECT_EQ(QGuiApplication::desktopFileName(), "norvane");
+    EXPECT_FALSE(QApplication::windowIcon().isNull());
     EXPECT_FALSE(at<QAction>("EditCut")->isEnabled());
     std::string menus;
     for (const QAction *top : peer()->findChild<QMenuBar *>()->actions()) {

@@ -1,7 +1,6 @@
 #include "tests/qt/desk.h"
 
-#include "shell/app.h"
-#include "shell/file_types.h"
+#include "shell/start.h"
 
 #include <QMessageBox>
 
@@ -13,13 +12,9 @@ Desk::Desk() {
     setenv("XDG_CONFIG_HOME", preferences.path().c_str(), 1);
     setenv("PATH", (programs.path() + ":/usr/bin:/bin").c_str(), 1);
     setOpener("exit 4");
-    desktop.pictures.name("NORVANE_128", QStringLiteral(":/NORVANE_1281.png"));
-    _EarlyStartup();
-    desktop.setApplication(App::the());
-    desktop.dialogs.add(FileTypes1::TextScc);
     QObject::connect(&watcher_, &QTimer::timeout, [this] { answerDialog(); });
     watcher_.start(5);
-    _LateStartup();
+    start(desktop);
     EXPECT_TRUE(QTest::qWaitForWindowActive(peer()));
     EXPECT_TRUE(QTest::qWaitForWindowExposed(peer()));
     QTest::qWait(1);

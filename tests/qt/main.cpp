@@ -5,6 +5,5 @@ int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     QApplication toolkit(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Norvane"));
     return RUN_ALL_TESTS();
 }

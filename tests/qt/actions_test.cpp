@@ -152,6 +152,8 @@ TEST_F(Actions, AboutIsOneWindowAndOutlivesTheMainOne) {
     EXPECT_EQ(text->property("text").toString().left(28), "Norvane version 1.6\n\nThis ap");
     first->resize(700, 400);
     EXPECT_EQ(aboutWin::the().Width, 700);
+    aboutWin::the().Width = 680;
+    EXPECT_EQ(first->width(), 680);
     QPointer<QWidget> main = peer();
     main->close();
     EXPECT_TRUE(QTest::qWaitFor([&] { return main.isNull(); }));

@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
+#include <QProgressBar>
 #include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QSignalSpy>
@@ -432,6 +433,7 @@ TEST_F(MainWindow, ProgressIsPaintedAtOnceAndSeldom) {
     window().ProgressBar1.Refresh(true);
     EXPECT_GE(bar.paints, 1);
     EXPECT_GE(rest.paints, 1);
+    EXPECT_EQ(at<QProgressBar>("ProgressBar1")->value(), 500000);
     bar.paints = 0;
     for (int value = 1; value <= 20; ++value) { // many pixels, in hardly any time
         window().ProgressBar1.Value = 500000 + value * 10000;

@@ -42,11 +42,17 @@ void Window1::chooseFolder(std::string &folder, TextField &field) {
     field.Text = folder;
 }
 
-// Kept: unlike the Browse buttons, the prompt fails when its dialog is cancelled.
-void Window1::promptForFolder(const std::string &message, std::string &folder, TextField &field) {
-    MsgBox(message);
-    folder = SelectFolder()->AbsolutePath();
-    field.Text = folder;
+// Kept: unlike the Browse buttons, the prompts fail when their dialog is cancelled.
+void Window1::promptForFolders() {
+    const auto prompt = [](const char *message, std::string &folder, TextField &field) {
+        if (!folder.empty())
+            return;
+        MsgBox(message);
+        folder = SelectFolder()->AbsolutePath();
+        field.Text = folder;
+    };
+    prompt("Please select a folder to watch.", hotFolder, TextField1);
+    prompt("Please select a destination folder for decoded files.", destFolder, TextField2);
 }
 
 void Window1::BevelButton6_Action() {
@@ -103,12 +109,7 @@ bool App::_FileEnableHotFolder_Action() {
         window.Timer1.Reset();
         return false;
     }
-    if (window.hotFolder.empty())
-        window.promptForFolder("Please select a folder to watch.", window.hotFolder,
-                               window.TextField1);
-    if (window.destFolder.empty())
-        window.promptForFolder("Please select a destination folder for decoded files.",
-                               window.destFolder, window.TextField2);
+    window.promptForFolders();
     return false;
 }
 

@@ -25,11 +25,7 @@ std::vector<std::string> copyAndList(const FolderItem &watchItem, const FolderIt
 void Window1::importSCCFolder() {
     captionArray2.clear(); // kept: the timecodes of a cycle that stopped stay for the first file
     ProgressBar1.Visible = true;
-    if (hotFolder.empty())
-        promptForFolder("Please select a folder to watch.", hotFolder, TextField1);
-    if (destFolder.empty())
-        promptForFolder("Please select a destination folder for decoded files.", destFolder,
-                        TextField2);
+    promptForFolders();
     const Ref<FolderItem> watchItem = GetFolderItem(hotFolder);
     if (!watchItem || !watchItem->Exists()) {
         MsgBox("Could not locate the Watch folder. Please use the Browse button and reselect it.");

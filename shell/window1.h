@@ -99,9 +99,9 @@ class Window1 : public Window {
     void DoTranscTimecodeFileSingle();
     void DoTranscTimecodeFile();
 
-    /// Shows `message` and a folder dialog; the chosen folder goes into `folder` and its field.
-    /// Throws NilObjectException when the dialog is cancelled (folders/hot_folder_control.cpp).
-    static void promptForFolder(const std::string &message, std::string &folder, TextField &field);
+    /// Asks for those of the two folders that are not chosen yet, by a message and a dialog each.
+    /// Throws NilObjectException when a dialog is cancelled (folders/hot_folder_control.cpp).
+    void promptForFolders();
 
     // Text alone: see decode/timecode.h and decode/letters.h.
     static std::string timecodeToSecondsSCC(std::string_view timecode);

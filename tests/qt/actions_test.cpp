@@ -151,7 +151,7 @@ TEST_F(Actions, AboutIsOneWindowAndOutlivesTheMainOne) {
     EXPECT_LE(text->heightForWidth(372) - text->fontMetrics().lineSpacing(), 141);
     EXPECT_EQ(text->property("text").toString().left(28), "Norvane version 1.6\n\nThis ap");
     first->resize(700, 400);
-    EXPECT_EQ(aboutWin::the().Width, 700);
+    EXPECT_TRUE(aboutWin::the().Width == 700 && aboutWin::the().Height > 300);
     aboutWin::the().Width = 680;
     EXPECT_EQ(first->width(), 680);
     QPointer<QWidget> main = peer();

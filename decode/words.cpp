@@ -7,7 +7,6 @@
 #include "framework/text/text.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -156,6 +155,13 @@ constexpr unsigned kIsOnlyLetter = 0x200; // it has a letter, and no code word b
 /// The byte of two hex digits, with its marks, by their place in memory read as a number; 0 for
 /// other characters. Few pages of it are ever written or read.
 constinit std::array<std::uint16_t, 0x10000> bytesOfDigits{};
+
+std::uint16_t placeOfDigits(const char *digits) {
+    std::uint16_t place = 0;
+    std::memcpy(&place, digits, sizeof place); // std::bit_cast is not in every library yet
+    return place;
+}
+
 const bool kBytesFilled = [] {
     constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
     for (const char first : kDigits) {
@@ -165,7 +171,7 @@ const bool kBytesFilled = [] {
             const auto *codes = &kRowsOfCode.first.at(byte * 0x100);
             const bool beginsCode =
                 std::any_of(codes, codes + 0x100, [](auto row) { return row != 0; });
-            bytesOfDigits.at(std::bit_cast<std::uint16_t>(digits)) = static_cast<std::uint16_t>(
+            bytesOfDigits.at(placeOfDigits(digits.data())) = static_cast<std::uint16_t>(
                 byte | kIsByte | (kLetterOf.at(byte).size != 0 && !beginsCode ? kIsOnlyLetter : 0));
         }
     }
@@ -173,9 +179,7 @@ const bool kBytesFilled = [] {
 }();
 
 unsigned byteAt(const char *digits) {
-    std::uint16_t place = 0;
-    std::memcpy(&place, digits, sizeof place);
-    return bytesOfDigits[place];
+    return bytesOfDigits[placeOfDigits(digits)];
 }
 
 /// Reads words and writes what becomes of them.

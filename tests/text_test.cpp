@@ -1,7 +1,9 @@
 #include "decode/data_line.h"
 #include "framework/files/text_streams.h"
+#include "framework/text/c_locale_numbers.h"
 #include "framework/text/text.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <optional>
@@ -49,8 +51,12 @@ TEST(Text, ValReadsTheLeadingNumber) {
                 {"123456789012345", 123456789012345.0},
                 {"0.1234567890123456789", 0.1234567890123456789},
                 {"1e99999999999999999999", infinite}};
-    for (const auto &row : rows)
+    for (const auto &row : rows) {
         EXPECT_EQ(Val(row.text), row.value) << row.text;
+        const bool isSigned = row.text[0] == '-' || row.text[0] == '+';
+        EXPECT_EQ(c_locale::leadingNumber(row.text + isSigned), std::abs(row.value)) << row.text;
+    }
+    EXPECT_EQ(c_locale::leadingNumber("0x10"), 0);
     for (const char *zero : {"", "abc", " 5", "inf", "nan", "0x10", "-", ".", "1e-400", "0-0.01",
                              "1e-99999999999999999999"})
         EXPECT_EQ(Val(zero), 0) << zero;
@@ -78,8 +84,10 @@ TEST(Text, StrHasSevenSignificantDigits) {
                 {-0.01, "-0.01"},
                 {1e300, "1e+300"},
                 {std::numeric_limits<double>::infinity(), "inf"}};
-    for (const auto &row : rows)
+    for (const auto &row : rows) {
         EXPECT_EQ(Str(row.value), row.text);
+        EXPECT_EQ(c_locale::general(row.value, 7), row.text);
+    }
 }
 
 TEST(Text, FormatRoundsAndPads) {
@@ -91,6 +99,7 @@ TEST(Text, FormatRoundsAndPads) {
     EXPECT_EQ(Format(0, "00.00"), "00.00");
     EXPECT_EQ(Format(1e20, "0"), "100000000000000000000");
     EXPECT_EQ(Format(-5.5, "00.00"), "-05.50");
+    EXPECT_EQ(c_locale::fixed(59.996, 2), "60.00");
 }
 
 TEST(Text, ReplacementsIgnoreCaseButForTheByteForm) {

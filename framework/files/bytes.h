@@ -12,8 +12,7 @@ namespace norvane {
 class Bytes {
   public:
     Bytes() = default;
-    explicit Bytes(std::size_t room)
-        : data_(std::make_unique_for_overwrite<char[]>(room)), room_(room) {}
+    explicit Bytes(std::size_t room) : data_(new char[room]), room_(room) {}
 
     std::string_view view() const { return {data_.get(), size_}; }
     std::size_t size() const { return size_; }
@@ -35,7 +34,7 @@ class Bytes {
 
     /// Makes the whole room `room` bytes, not less than what is filled.
     void grow(std::size_t room) {
-        auto larger = std::make_unique_for_overwrite<char[]>(room);
+        std::unique_ptr<char[]> larger(new char[room]); // NOLINT: as above
         if (size_ != 0)
             std::memcpy(larger.get(), data_.get(), size_);
         data_ = std::move(larger);

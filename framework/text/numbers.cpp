@@ -1,3 +1,4 @@
+#include "framework/text/c_locale_numbers.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -11,6 +12,11 @@ namespace norvane {
 
 namespace {
 
+#ifndef __cpp_lib_to_chars // libc++: integers alone
+using c_locale::fixed;
+using c_locale::general;
+using c_locale::leadingNumber;
+#else
 /// What a number that std::from_chars finds out of range is: infinite or nothing, by the decimal
 /// place of its first digit that counts.
 double outOfRangeValue(std::string_view number) {
@@ -33,6 +39,29 @@ double outOfRangeValue(std::string_view number) {
     return integers - leading + exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
 }
 
+double leadingNumber(std::string_view text) {
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error == std::errc::result_out_of_range)
+        return outOfRangeValue(text.substr(0, static_cast<std::size_t>(end - text.data())));
+    return value;
+}
+
+std::string print(double value, std::chars_format format, int precision) {
+    std::array<char, 512> buffer; // the largest double has 309 digits
+    const auto result = std::to_chars(buffer.begin(), buffer.end(), value, format, precision);
+    return {buffer.data(), result.ptr};
+}
+
+std::string general(double value, int digits) {
+    return print(value, std::chars_format::general, digits);
+}
+
+std::string fixed(double value, int decimals) {
+    return print(value, std::chars_format::fixed, decimals);
+}
+#endif
+
 } // namespace
 
 double Val(std::string_view text) {
@@ -42,29 +71,19 @@ double Val(std::string_view text) {
     if (text.empty() ||
         !(isDigit(text[0]) || (text[0] == '.' && text.size() > 1 && isDigit(text[1]))))
         return 0;
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error == std::errc::result_out_of_range)
-        value = outOfRangeValue(text.substr(0, static_cast<std::size_t>(end - text.data())));
+    const double value = leadingNumber(text);
     return negative ? -value : value;
 }
 
 std::string Str(double value) {
     constexpr int kSignificantDigits = 7;
-    std::array<char, 32> buffer{};
-    const auto result = std::to_chars(buffer.begin(), buffer.end(), value == 0 ? 0 : value,
-                                      std::chars_format::general, kSignificantDigits);
-    return {buffer.data(), result.ptr};
+    return general(value == 0 ? 0 : value, kSignificantDigits);
 }
 
 std::string Format(double value, std::string_view mask) {
     const std::size_t integerPlaces = std::min(mask.find('.'), mask.size());
     const std::size_t decimals = mask.size() - std::min(integerPlaces + 1, mask.size());
-    std::array<char, 512> buffer{};
-    const auto result = std::to_chars(buffer.begin(), buffer.end(), std::abs(value),
-                                      std::chars_format::fixed, static_cast<int>(decimals));
-    const std::string_view number(buffer.data(),
-                                  static_cast<std::size_t>(result.ptr - buffer.data()));
+    const std::string number = fixed(std::abs(value), static_cast<int>(decimals));
     const std::size_t integers = std::min(number.find('.'), number.size());
     return (std::signbit(value) ? "-" : "") +
            std::string(integerPlaces - std::min(integerPlaces, integers), '0').append(number);

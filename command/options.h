@@ -1,7 +1,7 @@
 #pragma once
 
 #include "decode/data_line.h"
-#include "explain/findings.h"
+#include "explain/checks/findings.h"
 #include "transcript/layout.h"
 
 #include <string>

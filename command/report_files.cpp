@@ -1,8 +1,8 @@
 #include "command/report_files.h"
 
 #include "command/input.h"
-#include "explain/check.h"
-#include "explain/report.h"
+#include "explain/checks/check.h"
+#include "explain/reports/report.h"
 #include "framework/files/disk.h"
 #include "framework/text/text.h"
 
@@ -52,7 +52,7 @@ void explainFile(const Place &place, const Options &options) {
     SccReader reader(text);
     if (isWanted(reader.headerNumber()))
         tellOf(explainHeader(reader.header(), reader.headerNumber(), findings));
-    while (const auto line = reader.next()) {
+    while (const SccLine *line = reader.next()) {
         if (isWanted(line->number))
             tellOf(explain(*line, options.clock, findings));
     }

@@ -2,7 +2,7 @@
 
 #include "command/input.h"
 #include "decode/caption.h"
-#include "explain/refusal_help.h"
+#include "explain/checks/refusal_help.h"
 #include "framework/files/disk.h"
 #include "framework/text/text.h"
 #include "transcript/clean_up.h"

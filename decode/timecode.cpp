@@ -44,8 +44,8 @@ double sevenDigits(double value) {
 
 /// The frames of "HH:MM:SS:FF", each ":" or ";", within a day; nothing for another text.
 std::optional<std::uint32_t> ordinaryFrames(std::string_view timecode) {
-    constexpr std::array<std::uint32_t, 4> kPerField = {0, 60, 60, 30};
-    constexpr std::uint32_t kDay = 24 * 60 * 60 * 30;
+    constexpr std::array<std::uint32_t, 4> kPerField = {0, 60, 60, kFramesPerSecond};
+    constexpr std::uint32_t kDay = 24 * 60 * 60 * kFramesPerSecond;
     if (timecode.size() != 3 * kPerField.size() - 1)
         return {};
     std::uint32_t frames = 0;
@@ -72,7 +72,7 @@ std::string ordinaryStart(std::string_view timecode, std::size_t characters) {
     constexpr std::uint32_t kUnitsPerCharacter = 2;
     constexpr std::uint32_t kUnitsPerHundredth = 3;
     constexpr std::uint32_t kUnitsPerMinute = 60 * 100 * kUnitsPerHundredth;
-    constexpr std::uint32_t kFirstInHundredths = 10'000 * 30;
+    constexpr std::uint32_t kFirstInHundredths = 10'000 * kFramesPerSecond;
     constexpr std::uint32_t kNearMinute = 10;
     std::string text;
     const auto frames = ordinaryFrames(timecode);

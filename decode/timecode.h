@@ -7,7 +7,7 @@ namespace norvane {
 
 /// Nominal frames per second, for every file: drop-frame numbering (SMPTE ST 12) is not
 /// compensated.
-inline constexpr double kFramesPerSecond = 30.0;
+inline constexpr int kFramesPerSecond = 30;
 
 /// The seconds of an SCC timecode "HH:MM:SS:FF", as the text of Str: "01:02:03:15" is "3723.5".
 /// Each field goes through Val; further fields are ignored. Throws OutOfBoundsException when there

@@ -1,7 +1,7 @@
 #include "decode/caption.h"
 #include "decode/replacement_chain.h"
-#include "explain/check.h"
-#include "explain/report.h"
+#include "explain/checks/check.h"
+#include "explain/reports/report.h"
 #include "framework/text/failures.h"
 #include "tests/support/plain_walk.h"
 #include "transcript/layout.h"
@@ -43,7 +43,7 @@ void explainAll(const std::string &text) {
     for (const Finding &finding : findings)
         told += reportOf(finding, "") + jsonOf(finding, "");
     SccReader reader(text);
-    while (const auto line = reader.next()) {
+    while (const SccLine *line = reader.next()) {
         const Explanation explanation = explain(*line, Clock::scc, findings);
         told += reportOf(explanation, "") + jsonOf(explanation, "");
         if (line->refusal)
@@ -69,9 +69,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     explainAll(text);
     std::string words;
     for (std::size_t i = 0; i < size; ++i) {
-        constexpr std::string_view kDigits = "0123456789abcdef";
-        words += kDigits[data[i] / 16];
-        words += kDigits[data[i] % 16];
+        words += norvane::kHexDigits[data[i] / 16];
+        words += norvane::kHexDigits[data[i] % 16];
         if (i % 2 == 1)
             words += ' ';
     }

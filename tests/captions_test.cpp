@@ -133,7 +133,7 @@ TEST(Letters, OfPiecesAndOfLongerText) {
     // A byte's letter is what the rows make of its two digits.
     int known = 0;
     for (int byte = 0; byte < 256; ++byte) {
-        const std::string digits = {"0123456789abcdef"[byte / 16], "0123456789abcdef"[byte % 16]};
+        const std::string digits = {kHexDigits[byte / 16], kHexDigits[byte % 16]};
         const std::string_view letter = letterOf(static_cast<unsigned char>(byte));
         EXPECT_EQ(letter.empty() ? digits : letter, convertSCC2Letters(digits));
         known += letter.empty() ? 0 : 1;

@@ -1,5 +1,5 @@
-#include "explain/explanation.h"
-#include "explain/timecode_frames.h"
+#include "explain/reports/explanation.h"
+#include "explain/standard/timecode_frames.h"
 #include "framework/text/text.h"
 #include "tests/support/generated.h"
 #include "transcript/layout.h"
@@ -16,8 +16,9 @@ TEST(Explain, HasTheEntryOfTheTranscriptOnGeneratedText) {
     GeneratedHexText generated(2);
     for (int line = 0; line < lines; ++line) {
         const std::string text = "header\n00:00:01:00\t" + generated.next();
-        const auto read = SccReader(text).next();
-        ASSERT_TRUE(read);
+        SccReader reader(text);
+        const SccLine *const read = reader.next();
+        ASSERT_NE(read, nullptr);
         TextArray timecodes;
         TextArray captions;
         std::optional<std::string> entry;

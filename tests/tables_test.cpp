@@ -20,7 +20,7 @@ unsigned withOddParity(unsigned sevenBits) {
 }
 
 std::string hex(unsigned byte) {
-    return {"0123456789abcdef"[byte / 16], "0123456789abcdef"[byte % 16]};
+    return {kHexDigits[byte / 16], kHexDigits[byte % 16]};
 }
 
 /// The word of two seven-bit codes.

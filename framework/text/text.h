@@ -81,12 +81,15 @@ std::string Chr(int code);
 /// The largest whole number not above `value`.
 double Floor(double value);
 
+/// The hex digits by their values.
+inline constexpr std::string_view kHexDigits = "0123456789abcdef";
+
 /// The value of each byte as an ASCII hex digit of either case, 0 to 15, or -1.
 inline constexpr auto kHexDigitValues = [] {
     std::array<signed char, 256> values{};
     values.fill(-1);
     for (signed char value = 0; value < 16; ++value) {
-        values.at(static_cast<unsigned char>("0123456789abcdef"[value])) = value;
+        values.at(static_cast<unsigned char>(kHexDigits[static_cast<std::size_t>(value)])) = value;
         values.at(static_cast<unsigned char>("0123456789ABCDEF"[value])) = value;
     }
     return values;

@@ -2,6 +2,7 @@
 
 #include "decode/chain_table.h"
 #include "decode/letters.h"
+#include "framework/text/text.h"
 
 #include <algorithm>
 #include <cctype>
@@ -19,7 +20,7 @@ char upper(char c) {
 std::string GeneratedHexText::hex(unsigned value, unsigned digits) {
     std::string text;
     for (unsigned place = digits; place-- > 0;)
-        text += "0123456789abcdef"[(value >> (4 * place)) & 15U];
+        text += kHexDigits[(value >> (4 * place)) & 15U];
     return text;
 }
 

@@ -1,7 +1,7 @@
 #include "tests/support/plain_modes.h"
 
 #include "decode/timecode.h"
-#include "explain/plain_walk.h"
+#include "explain/walk/plain_walk.h"
 #include "framework/text/text.h"
 #include "framework/windows/guard.h"
 #include "tests/support/plain_walk.h"

@@ -1,6 +1,6 @@
 #include "tests/support/plain_walk.h"
 
-#include "explain/plain_walk.h"
+#include "explain/walk/plain_walk.h"
 #include "framework/text/text.h"
 
 namespace norvane::plain {

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "explain/standard/scc_line.h"
+
+namespace norvane {
+
+/// A piece of what a line's words say by CEA-608, and where in the hex text it stands.
+struct SaidText {
+    std::string text;
+    std::size_t start = 0;
+    std::size_t end = 0;
+};
+
+/// All of what they say.
+class SaidLine {
+  public:
+    explicit SaidLine(const SccLine &line);
+
+    /// The word of the language, or what else stands between blanks and codes, that the characters
+    /// between two places of the hex text, both included, belong to; empty when there are none.
+    SaidText around(std::size_t first, std::size_t last) const;
+
+  private:
+    std::vector<SaidText> characters_; // an empty one for each code without any
+};
+
+} // namespace norvane

@@ -1,6 +1,6 @@
 #include "command/input.h"
 
-#include "decode/data_line.h"
+#include "explain/checks/film_transcript.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -60,9 +60,7 @@ Input::Input(const std::string &path)
         return;
     }
     file_ = openFile(path);
-    if (!isSccName(name_))
-        throw Problem{std::string(kNotSccMessage),
-                      "If it is one, give it a name that ends in .scc, or pipe it in."};
+    requireSccName(name_, "pipe it in");
 }
 
 bool Input::readSome() {

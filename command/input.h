@@ -1,5 +1,6 @@
 #pragma once
 
+#include "explain/checks/problem.h"
 #include "framework/files/bytes.h"
 #include "framework/files/disk.h"
 #include "framework/text/line_reader.h"
@@ -10,13 +11,6 @@
 #include <string_view>
 
 namespace norvane {
-
-/// Something that ended the work on one file, for the user.
-struct Problem {
-    std::string text;     // what it is; the program's own words where it has some
-    std::string help{};   // what to do; may be empty
-    std::size_t line = 0; // of the file; 0 when it concerns none
-};
 
 /// A file of the command line, or standard input, read block by block: its memory stays small and
 /// in the processor's cache, however long the file is.

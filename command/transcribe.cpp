@@ -1,11 +1,9 @@
 #include "command/transcribe.h"
 
 #include "command/input.h"
-#include "decode/caption.h"
-#include "explain/checks/refusal_help.h"
+#include "explain/checks/film_transcript.h"
 #include "framework/files/disk.h"
 #include "framework/text/text.h"
-#include "transcript/clean_up.h"
 
 #include <csignal>
 #include <memory>
@@ -52,47 +50,28 @@ std::string roomFor(std::size_t bytes) {
 }
 
 std::string bodyOf(Input &input, const Options &options) {
-    TranscriptBody body(options.form, roomFor(input.size()));
-    std::string caption;
-    const std::string foreign = foreignFormat(input.beginning());
+    FilmTranscript transcript(options.form, options.clock, input.beginning(),
+                              roomFor(input.size()));
     input.nextLine(); // the header
-    for (auto kept = input.nextLine(); !kept.empty(); kept = input.nextLine()) {
-        const auto line = takeApart(kept);
-        if (const Refusal *refusal = std::get_if<Refusal>(&line))
-            throw Problem{std::string(messageOf(*refusal)),
-                          foreign.empty() ? refusalHelp(kept) : foreign, input.lineNumber()};
-        try {
-            std::string timecode = startTime(std::get<DataLine>(line), options.clock);
-            caption.clear();
-            appendCaption(caption, std::get<DataLine>(line).hexText);
-            cleanEntry(caption);
-            correctComma(timecode);
-            body.add(timecode, caption);
-        } catch (const OutOfBoundsException &failure) {
-            throw Problem{failure.what(), entryHelp(std::get<DataLine>(line), options.clock),
-                          input.lineNumber()};
-        }
-    }
-    return body.take();
+    for (auto kept = input.nextLine(); !kept.empty(); kept = input.nextLine())
+        transcript.add(kept, input.lineNumber());
+    return transcript.take();
 }
 
-void writeTo(const std::string &path, const std::string &heading, const std::string &body,
-             bool force) {
+void writeTo(const std::string &path, const TranscriptPieces &pieces, bool force) {
     const std::string absolute = absolutePath(path);
     if (!force && disk::kindOf(absolute) != disk::Kind::missing)
         throw Problem{inQuotes(path) + " exists already; --force replaces it."};
     const SignalsWait wait;
     std::string problem;
-    auto file = std::make_unique<disk::NewFile>(absolute, disk::Readers::byUmask, problem);
-    if (!file->isOpen())
+    disk::NewFile file(absolute, disk::Readers::byUmask, problem);
+    if (!file.isOpen())
         throw Problem{problem};
     if (!force)
-        file->mustBeNew();
-    TextOutputStream stream(std::move(file));
-    stream.WriteLine(heading);
-    stream.WriteLine("");
-    stream.WriteLine(body);
-    stream.Close();
+        file.mustBeNew();
+    for (const std::string_view piece : pieces)
+        file.write(piece);
+    file.commit();
 }
 
 } // namespace
@@ -102,14 +81,14 @@ void transcribe(const std::string &path, const Options &options) {
     const std::string body = bodyOf(input, options);
     const std::string baseName = baseNameOf(input.name());
     const std::string heading = headingOf(baseName);
+    const TranscriptPieces pieces = piecesOf(heading, body);
     if (options.outputFolder.empty()) {
-        for (const std::string_view text :
-             {std::string_view(heading), EndOfLine, EndOfLine, std::string_view(body), EndOfLine})
-            disk::writeAll(STDOUT_FILENO, text, "standard output");
+        for (const std::string_view piece : pieces)
+            disk::writeAll(STDOUT_FILENO, piece, "standard output");
         return;
     }
     const std::string separator = options.outputFolder.ends_with('/') ? "" : "/";
-    writeTo(options.outputFolder + separator + baseName + ".txt", heading, body, options.force);
+    writeTo(options.outputFolder + separator + baseName + ".txt", pieces, options.force);
 }
 
 } // namespace norvane

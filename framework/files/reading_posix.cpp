@@ -4,7 +4,6 @@
 #include "framework/text/text.h"
 
 #include <algorithm>
-#include <tuple>
 
 namespace norvane::disk {
 
@@ -31,10 +30,8 @@ InputFile::InputFile(const std::string &path, std::string &problem) : path_(path
 }
 
 bool InputFile::isAt(const Place &place) const {
-    const auto identity = [](const struct stat &status) {
-        return std::tuple(status.st_dev, status.st_ino, status.st_size, status.st_mtime);
-    };
-    return identity(place.status) == identity(place_.status);
+    return place.isTaken() && place.status.st_dev == place_.status.st_dev &&
+           place.status.st_ino == place_.status.st_ino;
 }
 
 bool InputFile::readSome(Bytes &bytes) {

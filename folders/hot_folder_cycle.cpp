@@ -32,8 +32,8 @@ void Window1::importSCCFolder() {
         return;
     }
 
-    const std::optional<Handle> lock = watchItem->Lock();
-    if (!lock) // another program is at it
+    const auto lock = watchItem->Lock(); // kept: not against this program's own next cycle
+    if (!lock)
         return;
 
     std::vector<std::string> sourceList;

@@ -1,4 +1,5 @@
 #include "framework/files/folder_item.h"
+#include "framework/files/handle.h"
 #include "tests/support/faults.h"
 #include "tests/support/scenario.h"
 
@@ -250,17 +251,32 @@ TEST_F(Files, AFileThatGrowsEndsWhereItEnded) {
     EXPECT_EQ(folder.item("busy")->OpenAsTextFile()->ReadLine(), "x");
 }
 
-TEST_F(Files, AFolderIsLockedByOneAtATime) {
+TEST_F(Files, AFolderIsLockedByOneOfTheUsersProgramsAtATime) {
+    setenv("XDG_CONFIG_HOME", folder.path("new").c_str(), 1);
+    std::filesystem::create_directory(folder.path("watch"));
     folder.write("file", "");
     {
-        const auto lock = folder.item("")->Lock();
-        EXPECT_TRUE(lock && lock->isOpen());
-        EXPECT_FALSE(folder.item("")->Lock());
+        const auto lock = folder.item("watch")->Lock();
+        EXPECT_TRUE(*lock && *folder.item("watch")->Lock() == *lock) << "and again by itself";
+        ASSERT_EQ(folder.tree().size(), 4U);
+        EXPECT_EQ(modeOf(folder.tree()[2]), 0600U);
     }
-    EXPECT_TRUE(folder.item("")->Lock());
-    EXPECT_FALSE(folder.item("file")->Lock()->isOpen());
+    EXPECT_EQ(folder.tree(), (Lines{"file", "new/", "watch/"}));
+    EXPECT_FALSE(*folder.item("file")->Lock());
+    static Handle others; // whose lock ends, and its file with it, when this one has opened it
+    disk::systemCalls.flock = {[](int file, int how) {
+        if (!others.isOpen()) {
+            others = Handle(dup(file));
+            std::filesystem::remove(
+                std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file)));
+        }
+        return ::flock(file, how);
+    }};
+    EXPECT_TRUE(*folder.item("watch")->Lock());
+    disk::systemCalls.flock = {[](int, int) { return errno = EWOULDBLOCK, -1; }};
+    EXPECT_FALSE(folder.item("watch")->Lock());
     disk::systemCalls.flock = {[](int, int) { return errno = ENOLCK, -1; }};
-    EXPECT_FALSE(folder.item("")->Lock()->isOpen());
+    EXPECT_FALSE(*folder.item("watch")->Lock());
 }
 
 TEST_F(Files, OnlyLinksOfTheUserAndOfRootAreFollowed) {

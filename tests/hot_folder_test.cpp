@@ -1,7 +1,10 @@
+#include "framework/files/handle.h"
 #include "shell/app.h"
 #include "tests/support/faults.h"
 #include "tests/support/scenario.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 namespace norvane {
@@ -194,11 +197,13 @@ TEST_F(HotFolder, LinksThatOthersPlanted) {
 TEST_F(HotFolder, AnotherProgramsCycleIsLeftAlone) {
     EXPECT_EQ(watch(), Lines{});
     input("show.scc", {hiLine("00:00:01:00")});
-    {
-        const auto lock = folder.item("watch")->Lock();
-        EXPECT_EQ(wait(), Lines{});
-        EXPECT_EQ(folder.tree(), (Lines{"dest/", "dest/scc files/", "watch/", "watch/show.scc"}));
-    }
+    disk::systemCalls.flock = {[](int, int) { return errno = EWOULDBLOCK, -1; }};
+    EXPECT_EQ(wait(), Lines{});
+    EXPECT_EQ(folder.tree(), (Lines{"dest/", "dest/scc files/", "watch/", "watch/show.scc"}));
+    disk::systemCalls = {};
+    // What others can hold, as the folder itself, keeps nobody out.
+    const Handle held(open(folder.path("watch").c_str(), O_RDONLY));
+    EXPECT_EQ(flock(held.get(), LOCK_EX), 0);
     EXPECT_EQ(wait(), Lines{});
     EXPECT_TRUE(folder.has("dest/show.txt"));
 }
@@ -255,7 +260,11 @@ TEST_F(HotFolder, TheSwitchAndItsTimer) {
     EXPECT_EQ(window().Timer1.Mode, 0);
 
     folder.write("watch/bad.scc", "header\nbad");
-    EXPECT_EQ(watch(), Lines{kNoTimecode});
+    desktop.whenSeen = [this](const std::string &line) {
+        if (line.starts_with("message "))
+            desktop.advance(kInterval);
+    };
+    EXPECT_EQ(watch(), (Lines{kNoTimecode, kNoTimecode})) << "a tick enters the first cycle again";
     // The pause begins where a cycle ends, and no tick comes while one waits for its
     // user, in whichever cycle it is.
     desktop.whenSeen = [this](const std::string &line) {

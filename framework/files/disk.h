@@ -5,6 +5,7 @@
 #include "framework/files/place.h"
 #include "framework/files/text_streams.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -45,10 +46,13 @@ class InputFile;
 /// Whether it worked is not told.
 void remove(const std::string &path, const InputFile *read = nullptr);
 
-/// A lock on a folder, held until the handle is closed; nullopt when another has it, in this
-/// program or another. The handle is not open where the folder cannot be locked: nobody is kept out
-/// then.
-std::optional<Handle> lockFolder(const std::string &path);
+/// A lock, held for as long as a copy of this lives; null where there is none.
+using FolderLock = std::shared_ptr<const void>;
+
+/// Keeps the user's other programs that ask for the same out of a folder, and nobody else: what is
+/// locked is a file in the user's folder for preferences. Asked again, this program gets it again.
+/// nullopt when another program has it; null where nothing can be locked: nobody is kept out then.
+std::optional<FolderLock> lockFolder(const std::string &path);
 
 /// The per-user folder for preferences, not ending in a separator; empty when the user has none:
 /// without a home, or without a full path to it.

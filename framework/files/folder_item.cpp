@@ -96,7 +96,7 @@ void FolderItem::Delete() const {
     disk::remove(path_, opened_.get());
 }
 
-std::optional<Handle> FolderItem::Lock() const {
+std::optional<disk::FolderLock> FolderItem::Lock() const {
     return disk::lockFolder(path_);
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "framework/files/handle.h"
 #include "framework/files/ref.h"
 #include "framework/files/text_streams.h"
 
@@ -70,9 +69,9 @@ class FolderItem {
     /// Whether it worked is not told.
     void Delete() const;
 
-    /// Keeps other cycles, in whatever program, out of this folder for as long as the handle lives;
-    /// nullopt when another has it. Where the file system cannot lock, nobody is kept out.
-    std::optional<Handle> Lock() const;
+    /// Keeps cycles of the user's other programs out of this folder for as long as the result
+    /// lives; nullopt when one of them is in it. Where nothing can be locked, nobody is kept out.
+    std::optional<std::shared_ptr<const void>> Lock() const;
 
     /// A stream whose text takes this item's place when it is closed; nil when it cannot be
     /// created. The new file has the permission bits of the one that it replaces, or those that the

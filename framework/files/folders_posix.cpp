@@ -103,17 +103,4 @@ void remove(const std::string &path, const InputFile *read) {
         systemCalls.unlinkat(place.folder.get(), place.name.c_str(), 0);
 }
 
-std::optional<Handle> lockFolder(const std::string &path) {
-    Place place;
-    Handle folder;
-    if (findPlace(path, LastLink::follow, place) == 0)
-        folder = openPlace(place, O_RDONLY | O_DIRECTORY);
-    if (folder.isOpen() && systemCalls.flock(folder.get(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno == EWOULDBLOCK)
-            return std::nullopt;
-        folder.close();
-    }
-    return folder;
-}
-
 } // namespace norvane::disk

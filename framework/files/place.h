@@ -18,6 +18,10 @@ struct Place {
     bool isFile() const { return S_ISREG(status.st_mode); }
     bool isFolder() const { return S_ISDIR(status.st_mode); }
     bool isLink() const { return S_ISLNK(status.st_mode); }
+    /// Whether what stands here is the file or folder of `other`.
+    bool holds(const struct stat &other) const {
+        return isTaken() && status.st_dev == other.st_dev && status.st_ino == other.st_ino;
+    }
     mode_t permissions() const { return status.st_mode & 0777U; }
 };
 

@@ -30,8 +30,7 @@ InputFile::InputFile(const std::string &path, std::string &problem) : path_(path
 }
 
 bool InputFile::isAt(const Place &place) const {
-    return place.isTaken() && place.status.st_dev == place_.status.st_dev &&
-           place.status.st_ino == place_.status.st_ino;
+    return place.holds(place_.status);
 }
 
 bool InputFile::readSome(Bytes &bytes) {

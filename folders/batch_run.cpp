@@ -24,7 +24,7 @@ void Window1::importSCCFolderSingle() {
     // of the one before, and that one's stream is closed once more.
     auto sourceStream = Ref<TextInputStream>::nil("no file has been opened.");
     for (std::size_t k = 0; k < sourceList.size(); ++k) {
-        const Ref<FolderItem> sourceItem = GetFolderItem(sourceList[k]);
+        const Ref<FolderItem> sourceItem = GetFolderItem(sourceList[k], 0, Links::all);
         if (sourceItem) {
             fileName = sourceItem->Name();
             sourceStream = sourceItem->OpenAsTextFile();

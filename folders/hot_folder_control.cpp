@@ -42,17 +42,22 @@ void Window1::chooseFolder(std::string &folder, TextField &field) {
     field.Text = folder;
 }
 
-// Kept: unlike the Browse buttons, the prompts fail when their dialog is cancelled.
-void Window1::promptForFolders() {
-    const auto prompt = [](const char *message, std::string &folder, TextField &field) {
-        if (!folder.empty())
-            return;
-        MsgBox(message);
-        folder = SelectFolder()->AbsolutePath();
-        field.Text = folder;
-    };
-    prompt("Please select a folder to watch.", hotFolder, TextField1);
-    prompt("Please select a destination folder for decoded files.", destFolder, TextField2);
+// Kept: unlike the Browse buttons, these fail when their dialog is cancelled.
+
+void Window1::promptForWatchFolder() {
+    if (!hotFolder.empty())
+        return;
+    MsgBox("Please select a folder to watch.");
+    hotFolder = SelectFolder()->AbsolutePath();
+    TextField1.Text = hotFolder;
+}
+
+void Window1::promptForDestination() {
+    if (!destFolder.empty())
+        return;
+    MsgBox("Please select a destination folder for decoded files.");
+    destFolder = SelectFolder()->AbsolutePath();
+    TextField2.Text = destFolder;
 }
 
 void Window1::BevelButton6_Action() {
@@ -109,7 +114,8 @@ bool App::_FileEnableHotFolder_Action() {
         window.Timer1.Reset();
         return false;
     }
-    window.promptForFolders();
+    window.promptForWatchFolder();
+    window.promptForDestination();
     return false;
 }
 

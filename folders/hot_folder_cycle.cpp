@@ -25,8 +25,10 @@ std::vector<std::string> copyAndList(const FolderItem &watchItem, const FolderIt
 void Window1::importSCCFolder() {
     captionArray2.clear(); // kept: the timecodes of a cycle that stopped stay for the first file
     ProgressBar1.Visible = true;
-    promptForFolders();
-    const Ref<FolderItem> watchItem = GetFolderItem(hotFolder);
+    promptForWatchFolder();
+    // As a folder: a link of another user in its place does not count as one that exists.
+    const Ref<FolderItem> watchItem = GetFolderItem(hotFolder + "/");
+    promptForDestination();
     if (!watchItem || !watchItem->Exists()) {
         MsgBox("Could not locate the Watch folder. Please use the Browse button and reselect it.");
         return;

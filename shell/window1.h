@@ -99,9 +99,10 @@ class Window1 : public Window {
     void DoTranscTimecodeFileSingle();
     void DoTranscTimecodeFile();
 
-    /// Asks for those of the two folders that are not chosen yet, by a message and a dialog each.
-    /// Throws NilObjectException when a dialog is cancelled (folders/hot_folder_control.cpp).
-    void promptForFolders();
+    /// Ask for a folder that is not chosen yet, by a message and a dialog. Throw NilObjectException
+    /// when the dialog is cancelled (folders/hot_folder_control.cpp).
+    void promptForWatchFolder();
+    void promptForDestination();
 
     // Text alone: see decode/timecode.h and decode/letters.h.
     static std::string timecodeToSecondsSCC(std::string_view timecode);

@@ -13,6 +13,8 @@ namespace {
 constexpr std::int64_t kMinute = 60000;
 constexpr std::int64_t kInterval = 15 * kMinute;
 constexpr const char *kNoTimecode = "There does not appear to be any timecode in this file.";
+constexpr const char *kNoWatchFolder =
+    "Could not locate the Watch folder. Please use the Browse button and reselect it.";
 constexpr const char *kBothFolders =
     "You must choose both a watch folder and a destination folder to activate the timer.";
 
@@ -192,6 +194,21 @@ TEST_F(HotFolder, LinksThatOthersPlanted) {
         EXPECT_EQ(folder.read(std::string("home/") + name), "the user's own");
     EXPECT_EQ(folder.read("dest/scc files/keys"), "a stranger's");
     EXPECT_EQ(folder.read("dest/show_1.txt"), hiTranscript("show.scc", {"00:00:01.33"}));
+
+    // What a person picks is followed, but no link in the place of a folder of the watch is.
+    plant("watch", "picked");
+    folder.write("home/diary", sccFile({hiLine("00:00:01:00")}));
+    const auto picked = GetFolderItem(folder.path("picked"), 0, Links::all);
+    desktop.answerFolder(picked);
+    desktop.answerSave(folder.item("b.txt"));
+    desktop.click(window().BevelButton4);
+    EXPECT_EQ(messages(), Lines{"All SCC files have been decoded."});
+    EXPECT_EQ(folder.read("b.txt"), hiTranscript("b.scc", {"00:00:01.33"}));
+    desktop.answerFolder(picked);
+    desktop.click(window().BevelButton6);
+    for (; window().hotFolder.ends_with("/"); window().hotFolder.pop_back())
+        EXPECT_EQ(cycle(), Lines{kNoWatchFolder});
+    EXPECT_EQ(cycle(), Lines{kNoWatchFolder});
 }
 
 TEST_F(HotFolder, AnotherProgramsCycleIsLeftAlone) {
@@ -217,8 +234,7 @@ TEST_F(HotFolder, FoldersThatAreMissingOrNone) {
     EXPECT_EQ(wait(), Lines{});
     window().ProgressBar1.Visible = false;
     window().captionArray2.Append("of an earlier run");
-    EXPECT_EQ(cycle(), Lines{"Could not locate the Watch folder. Please use the Browse button "
-                             "and reselect it."});
+    EXPECT_EQ(cycle(), Lines{kNoWatchFolder});
     EXPECT_TRUE(window().ProgressBar1.Visible && window().captionArray2.empty());
     folder.write("watch", "a file");
     EXPECT_EQ(wait(), Lines{});
@@ -227,6 +243,10 @@ TEST_F(HotFolder, FoldersThatAreMissingOrNone) {
     window().hotFolder = folder.path("watch/");
     std::filesystem::remove(folder.path("watch"));
     std::filesystem::rename(folder.path("away"), folder.path("watch"));
+    disk::systemCalls.fstat = {[](int, struct stat *) { return errno = EIO, -1; }};
+    EXPECT_EQ(wait(), Lines{failed("“" + folder.path("watch") +
+                                   "” cannot be reached: Input/output error.")});
+    disk::systemCalls = {};
 
     const Lines noDestination{"Could not locate the Destination folder. Please use the Browse "
                               "button and reselect it."};
@@ -334,6 +354,18 @@ TEST_F(HotFolder, ACycleAsksForFoldersThatItLacks) {
     EXPECT_EQ(wait(), Lines{"Please select a destination folder for decoded files."});
     EXPECT_TRUE(folder.has("dest/show.txt"));
     EXPECT_EQ(window().TextField2.Text.get(), folder.path("dest/"));
+
+    // The watch folder is looked for before the destination is asked for.
+    window().hotFolder = folder.path("late/watch/");
+    window().destFolder.clear();
+    desktop.answerFolder(folder.item("dest"));
+    desktop.whenSeen = [this](const std::string &line) {
+        if (line.starts_with("message "))
+            folder.write("late/watch/a", "");
+    };
+    window().importSCCFolder();
+    EXPECT_EQ(messages(),
+              (Lines{"Please select a destination folder for decoded files.", kNoWatchFolder}));
 }
 
 } // namespace

@@ -20,7 +20,7 @@ void Window1::doTranscTimecode() {
         ProgressBar1.Visible = false;
         captionArray2.clear(); // kept: on Cancel both arrays stay as they are
         timeCodeArray.clear();
-        GetFolderItem(transcriptItem->AbsolutePath())->Launch(true);
+        GetFolderItem(transcriptItem->AbsolutePath(), 0, Links::all)->Launch(true);
     }
     hideProgress();
 }

@@ -12,33 +12,34 @@
 #include <vector>
 
 /// What the program asks of the file system. Paths are absolute, UTF-8, or whatever bytes the
-/// system has. Links are followed as findPlace does. Nothing here blocks on a FIFO or a device.
+/// system has. Links are followed as `links` says, trusted ones where nothing does. Nothing here
+/// blocks on a FIFO or a device.
 namespace norvane::disk {
 
 enum class Kind { missing, file, folder, foreignLink, other };
 
 /// What stands at `path`; missing also when a folder on the way is. Throws IOException when that
 /// cannot be told, as with a failing disk.
-Kind kindOf(const std::string &path);
+Kind kindOf(const std::string &path, Links links = Links::trusted);
 
 /// The same, but `unknown` when it cannot be told.
-Kind kindOf(const std::string &path, Kind unknown);
+Kind kindOf(const std::string &path, Kind unknown, Links links = Links::trusted);
 
 /// The folder that holds what is at `path`, which has no separator at its end; the root is its own.
 std::string folderOf(const std::string &path);
 
 /// The names in a folder but "." and "..", sorted by their bytes; none when it is no folder or may
 /// not be read. Throws IOException when reading it fails.
-std::vector<std::string> namesIn(const std::string &path);
+std::vector<std::string> namesIn(const std::string &path, Links links = Links::trusted);
 
 /// Appends the names in an open folder, as the system has them; false when reading it failed.
 bool readNames(Handle folder, std::vector<std::string> &names);
 
 /// Makes a folder; its parent must exist. Whether it worked is not told.
-void makeFolder(const std::string &path);
+void makeFolder(const std::string &path, Links links = Links::trusted);
 
 /// Makes a folder and those above it that are missing. Whether it worked is not told.
-void makeFolders(const std::string &path);
+void makeFolders(const std::string &path, Links links = Links::trusted);
 
 class InputFile;
 
@@ -66,7 +67,7 @@ class InputFile {
   public:
     /// Opens `path`. When it is no regular file or cannot be opened, the file is not open and
     /// `problem` says why, in words for the user.
-    InputFile(const std::string &path, std::string &problem);
+    InputFile(const std::string &path, std::string &problem, Links links = Links::trusted);
 
     bool isOpen() const { return handle_.isOpen(); }
 
@@ -115,7 +116,8 @@ class NewFile : public TextSink {
     /// Begins a file for `path`; when it cannot be created, it is not open and `problem` says why.
     /// A regular file that stands there must be writable and leaves its permission bits to the new
     /// one; `readers` is for a file where there was none.
-    NewFile(const std::string &path, Readers readers, std::string &problem);
+    NewFile(const std::string &path, Readers readers, std::string &problem,
+            Links links = Links::trusted);
 
     /// Begins a copy for `path` with these permission bits, whatever those of a file there are.
     NewFile(const std::string &path, mode_t permissions, std::string &problem);
@@ -139,7 +141,7 @@ class NewFile : public TextSink {
     void finish(Lasting lasting);
 
   private:
-    bool findTarget(std::string &problem);
+    bool findTarget(std::string &problem, Links links);
     void begin(mode_t mode, std::string &problem);
     void nameTemporary();
     void takePlace();

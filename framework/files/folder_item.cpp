@@ -22,10 +22,10 @@ std::string withEndSeparator(const std::string &path) {
     return path.ends_with(kSeparator) ? path : path + kSeparator;
 }
 
-Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers readers,
+Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers readers, Links links,
                                      bool mustBeNew) {
     std::string problem;
-    auto file = std::make_unique<disk::NewFile>(path, readers, problem);
+    auto file = std::make_unique<disk::NewFile>(path, readers, problem, links);
     if (!file->isOpen())
         return Ref<TextOutputStream>::nil(problem);
     if (mustBeNew)
@@ -35,30 +35,30 @@ Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers read
 
 } // namespace
 
-FolderItem::FolderItem(const std::string &path)
-    : path_(withoutEndSeparator(path)), asFolder_(path.ends_with(kSeparator)) {}
+FolderItem::FolderItem(const std::string &path, Links links)
+    : path_(withoutEndSeparator(path)), asFolder_(path.ends_with(kSeparator)), links_(links) {}
 
 std::string FolderItem::Name() const {
     return path_.substr(path_.rfind(kSeparator) + 1);
 }
 
 std::string FolderItem::AbsolutePath() const {
-    return disk::kindOf(path_) == disk::Kind::folder ? withEndSeparator(path_) : path_;
+    return disk::kindOf(path_, links_) == disk::Kind::folder ? withEndSeparator(path_) : path_;
 }
 
 bool FolderItem::Exists() const {
-    const disk::Kind kind = disk::kindOf(path_);
+    const disk::Kind kind = disk::kindOf(path_, links_);
     wasMissing_ = kind == disk::Kind::missing;
     return !wasMissing_ && !(asFolder_ && kind == disk::Kind::foreignLink);
 }
 
 bool FolderItem::Directory() const {
-    return disk::kindOf(path_, disk::Kind::missing) == disk::Kind::folder;
+    return disk::kindOf(path_, links_) == disk::Kind::folder;
 }
 
 const std::vector<std::string> &FolderItem::listing() const {
     if (!listing_)
-        listing_ = disk::namesIn(path_);
+        listing_ = disk::namesIn(path_, links_);
     return *listing_;
 }
 
@@ -70,17 +70,18 @@ Ref<FolderItem> FolderItem::Item(std::size_t index) const {
     if (index < 1 || index > Count())
         return Ref<FolderItem>::nil(inQuotes(path_) + " has no item " + std::to_string(index) +
                                     ".");
-    return Ref(std::make_shared<FolderItem>(withEndSeparator(path_) + listing()[index - 1]));
+    return Ref(
+        std::make_shared<FolderItem>(withEndSeparator(path_) + listing()[index - 1], links_));
 }
 
 Ref<FolderItem> FolderItem::Child(std::string_view name) const {
     const std::string_view outlawed{"/\0", 2};
     const std::string path = withEndSeparator(path_).append(name);
-    if (disk::kindOf(path_) != disk::Kind::folder || name.empty() || name == "." || name == ".." ||
-        name.find_first_of(outlawed) != std::string_view::npos ||
-        disk::kindOf(path, disk::Kind::other) == disk::Kind::foreignLink)
+    if (disk::kindOf(path_, links_) != disk::Kind::folder || name.empty() || name == "." ||
+        name == ".." || name.find_first_of(outlawed) != std::string_view::npos ||
+        disk::kindOf(path, disk::Kind::other, links_) == disk::Kind::foreignLink)
         return Ref<FolderItem>::nil(inQuotes(path_) + " can have no item " + inQuotes(name) + ".");
-    return Ref(std::make_shared<FolderItem>(path));
+    return Ref(std::make_shared<FolderItem>(path, links_));
 }
 
 void FolderItem::CreateAsFolder() const {
@@ -101,16 +102,16 @@ std::optional<disk::FolderLock> FolderItem::Lock() const {
 }
 
 Ref<TextOutputStream> FolderItem::CreateTextFile() const {
-    return createTextFile(path_, disk::Readers::byUmask, wasMissing_);
+    return createTextFile(path_, disk::Readers::byUmask, links_, wasMissing_);
 }
 
 Ref<TextOutputStream> FolderItem::CreatePrivateTextFile() const {
-    return createTextFile(path_, disk::Readers::userAlone, false);
+    return createTextFile(path_, disk::Readers::userAlone, links_, false);
 }
 
 Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
     std::string problem;
-    opened_ = std::make_shared<disk::InputFile>(path_, problem);
+    opened_ = std::make_shared<disk::InputFile>(path_, problem, links_);
     if (opened_->hasFailed())
         throw IOException(problem);
     if (!opened_->isOpen())
@@ -118,15 +119,15 @@ Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
     return Ref(std::make_shared<TextInputStream>([file = opened_] { return file->readAll(); }));
 }
 
-Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/) {
+Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/, Links links) {
     if (path.empty())
         return Ref<FolderItem>::nil("No folder or file was named.");
     if (!path.starts_with(kSeparator) || path.find('\0') != std::string::npos)
         return Ref<FolderItem>::nil(inQuotes(path) + " is no full path of a folder or file.");
     const std::string folder = disk::folderOf(withoutEndSeparator(path));
-    if (disk::kindOf(folder, disk::Kind::folder) != disk::Kind::folder)
+    if (disk::kindOf(folder, disk::Kind::folder, links) != disk::Kind::folder)
         return Ref<FolderItem>::nil(inQuotes(path) + " is in a folder that does not exist.");
-    return Ref(std::make_shared<FolderItem>(path));
+    return Ref(std::make_shared<FolderItem>(path, links));
 }
 
 Ref<FolderItem> SpecialFolder::Preferences() {

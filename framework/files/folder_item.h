@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/files/links.h"
 #include "framework/files/ref.h"
 #include "framework/files/text_streams.h"
 
@@ -21,14 +22,14 @@ class InputFile;
 enum class CopyOf { whatStays, whatGoes };
 
 /// A place in the file system, where something may or may not exist. Paths and their names hold
-/// UTF-8; other bytes in them pass unchanged. A symbolic link is followed only when it belongs to
-/// the program's user or to root; any other is neither a file nor a folder.
+/// UTF-8; other bytes in them pass unchanged. Which symbolic links are followed is settled when an
+/// item is made; its items and children have that from it.
 class FolderItem {
   public:
     virtual ~FolderItem() = default;
 
     /// The item at an absolute path; GetFolderItem and Child are the ways to have one.
-    explicit FolderItem(const std::string &path);
+    explicit FolderItem(const std::string &path, Links links = Links::trusted);
 
     /// The last part of the path, extension included.
     std::string Name() const;
@@ -41,7 +42,7 @@ class FolderItem {
     /// a folder was named. Throws IOException when that cannot be told.
     bool Exists() const;
 
-    /// True for a folder; false also when that cannot be told.
+    /// True for a folder. Throws IOException when that cannot be told.
     bool Directory() const;
 
     /// How many items the folder holds, hidden ones included; 0 when it is none or may not
@@ -95,15 +96,17 @@ class FolderItem {
 
     std::string path_; // without a separator at its end, but for the root
     bool asFolder_;    // it was named with one
+    Links links_;
     mutable std::optional<std::vector<std::string>> listing_;
     mutable bool wasMissing_ = false;
     mutable std::shared_ptr<disk::InputFile> opened_;
 };
 
-/// The item at an absolute path; `mode` is 0, absolute path. Nil when the path is empty or not
+/// The item at an absolute path; `mode` is 0, absolute path; `links` is `all` for what a person
+/// picked. Nil when the path is empty or not
 /// absolute or holds a NUL, or its folder is missing; what cannot be looked at, as on a failing
 /// disk, counts as existing here, and its use fails.
-Ref<FolderItem> GetFolderItem(const std::string &path, int mode = 0);
+Ref<FolderItem> GetFolderItem(const std::string &path, int mode = 0, Links links = Links::trusted);
 
 namespace SpecialFolder {
 

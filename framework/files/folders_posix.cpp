@@ -15,9 +15,9 @@ namespace {
 }
 
 /// What stands at `path`; in `error` why that cannot be told, or 0.
-Kind look(const std::string &path, int &error) {
+Kind look(const std::string &path, Links links, int &error) {
     Place place;
-    error = findPlace(path, LastLink::follow, place);
+    error = findPlace(path, place, links);
     if (error == ENOENT || error == ENOTDIR) { // a folder on the way is missing
         error = 0;
         return Kind::missing;
@@ -31,17 +31,17 @@ Kind look(const std::string &path, int &error) {
 
 } // namespace
 
-Kind kindOf(const std::string &path) {
+Kind kindOf(const std::string &path, Links links) {
     int error = 0;
-    const Kind kind = look(path, error);
+    const Kind kind = look(path, links, error);
     if (error != 0)
         failToReach(path, error);
     return kind;
 }
 
-Kind kindOf(const std::string &path, Kind unknown) {
+Kind kindOf(const std::string &path, Kind unknown, Links links) {
     int error = 0;
-    const Kind kind = look(path, error);
+    const Kind kind = look(path, links, error);
     return error == 0 ? kind : unknown;
 }
 
@@ -65,10 +65,10 @@ bool readNames(Handle folder, std::vector<std::string> &names) {
     }
 }
 
-std::vector<std::string> namesIn(const std::string &path) {
+std::vector<std::string> namesIn(const std::string &path, Links links) {
     Place place;
     Handle folder;
-    int error = findPlace(path, LastLink::follow, place);
+    int error = findPlace(path, place, links);
     if (error == 0) {
         folder = openPlace(place, O_RDONLY | O_DIRECTORY);
         error = folder.isOpen() ? 0 : errno;
@@ -82,24 +82,24 @@ std::vector<std::string> namesIn(const std::string &path) {
     return names;
 }
 
-void makeFolder(const std::string &path) {
+void makeFolder(const std::string &path, Links links) {
     Place place;
-    if (findPlace(path, LastLink::follow, place) == 0 && !place.isTaken())
+    if (findPlace(path, place, links) == 0 && !place.isTaken())
         systemCalls.mkdirat(place.folder.get(), place.name.c_str(), 0777);
 }
 
-void makeFolders(const std::string &path) {
+void makeFolders(const std::string &path, Links links) {
     for (std::size_t end = 0; end != std::string::npos;) {
         end = path.find('/', end + 1);
-        makeFolder(path.substr(0, end));
+        makeFolder(path.substr(0, end), links);
     }
 }
 
 void remove(const std::string &path, const InputFile *read) {
     Place place;
-    if (read != nullptr && (findPlace(path, LastLink::follow, place) != 0 || !read->isAt(place)))
+    if (read != nullptr && (findPlace(path, place) != 0 || !read->isAt(place)))
         return;
-    if (findPlace(path, LastLink::keep, place) == 0)
+    if (findPlace(path, place, Links::trusted, LastLink::keep) == 0)
         systemCalls.unlinkat(place.folder.get(), place.name.c_str(), 0);
 }
 

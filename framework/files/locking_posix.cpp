@@ -28,7 +28,7 @@ std::optional<std::shared_ptr<LockFile>> lockFile(const std::string &path) {
     constexpr mode_t kForUserAlone = 0600; // nobody else can open it, and so hold it
     for (;;) {
         Place place;
-        if (findPlace(path, LastLink::keep, place) != 0)
+        if (findPlace(path, place, Links::trusted, LastLink::keep) != 0)
             return nullptr;
         Handle handle = openPlace(place, O_RDWR | O_CREAT | O_NONBLOCK, kForUserAlone);
         if (!handle.isOpen())
@@ -40,7 +40,7 @@ std::optional<std::shared_ptr<LockFile>> lockFile(const std::string &path) {
         }
         struct stat locked {};
         if (systemCalls.fstat(handle.get(), &locked) != 0 ||
-            findPlace(path, LastLink::keep, place) != 0)
+            findPlace(path, place, Links::trusted, LastLink::keep) != 0)
             return nullptr;
         if (!place.holds(locked)) // its last owner has removed it since it was opened
             continue;
@@ -57,7 +57,7 @@ std::optional<FolderLock> lockFolder(const std::string &path) {
     static std::map<std::string, std::weak_ptr<LockFile>> held; // by this program
     Place folder;
     const std::string home = preferencesFolder();
-    if (home.empty() || findPlace(path, LastLink::follow, folder) != 0 || !folder.isFolder())
+    if (home.empty() || findPlace(path, folder) != 0 || !folder.isFolder())
         return nullptr;
     const std::string name = "com.bellwick.norvane." + std::to_string(folder.status.st_dev) + "-" +
                              std::to_string(folder.status.st_ino) + ".lock";

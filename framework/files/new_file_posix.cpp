@@ -41,8 +41,9 @@ void removeLeftovers(const std::string &path, const Place &file) {
 
 } // namespace
 
-NewFile::NewFile(const std::string &path, Readers readers, std::string &problem) : path_(path) {
-    if (!findTarget(problem))
+NewFile::NewFile(const std::string &path, Readers readers, std::string &problem, Links links)
+    : path_(path) {
+    if (!findTarget(problem, links))
         return;
     if (place_.isFile()) {
         if (systemCalls.faccessat(place_.folder.get(), place_.name.c_str(), W_OK,
@@ -57,7 +58,7 @@ NewFile::NewFile(const std::string &path, Readers readers, std::string &problem)
 
 NewFile::NewFile(const std::string &path, mode_t permissions, std::string &problem)
     : path_(path), permissions_(permissions) {
-    if (findTarget(problem))
+    if (findTarget(problem, Links::trusted))
         begin(kForUserAlone, problem);
 }
 
@@ -66,8 +67,8 @@ NewFile::~NewFile() {
         systemCalls.unlinkat(place_.folder.get(), temporary_.c_str(), 0);
 }
 
-bool NewFile::findTarget(std::string &problem) {
-    const int error = findPlace(path_, LastLink::follow, place_);
+bool NewFile::findTarget(std::string &problem, Links links) {
+    const int error = findPlace(path_, place_, links);
     if (error != 0)
         problem = inQuotes(path_) + " cannot be created: " + reason(error) + ".";
     else if (place_.isTaken() && !place_.isFile() && !place_.isLink())

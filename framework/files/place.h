@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/files/handle.h"
+#include "framework/files/links.h"
 
 #include <string>
 #include <sys/stat.h>
@@ -28,11 +29,10 @@ struct Place {
 enum class LastLink { follow, keep };
 
 /// Finds the place of an absolute path; gives 0, or the system's error, such as ENOENT when a
-/// folder on the way is missing. A symbolic link is followed only when it belongs to the user who
-/// runs the program or to root, since whoever may write to a shared folder could else lead the
-/// program to files of its user; any other is neither a folder nor a file. With `keep`, a link that
-/// the path itself names is found and not followed.
-int findPlace(std::string path, LastLink lastLink, Place &place);
+/// folder on the way is missing. With `keep`, a link that the path itself names is found and not
+/// followed.
+int findPlace(std::string path, Place &place, Links links = Links::trusted,
+              LastLink lastLink = LastLink::follow);
 
 /// Opens what stands at `place`, without following a link; open(2) tells the flags and the mode.
 /// Not open on failure, with the system's error in errno.

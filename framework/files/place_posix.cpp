@@ -19,8 +19,8 @@ constexpr int kLook = O_PATH;
 
 constexpr int kMostLinks = 40; // on one way, as the system itself has it
 
-bool mayFollow(const struct stat &link) {
-    return link.st_uid == geteuid() || link.st_uid == 0;
+bool mayFollow(const struct stat &link, Links links) {
+    return links == Links::all || link.st_uid == geteuid() || link.st_uid == 0;
 }
 
 /// Where an open link leads; empty on failure.
@@ -32,7 +32,7 @@ std::string targetOf(const Handle &link) {
 
 } // namespace
 
-int findPlace(std::string path, LastLink lastLink, Place &place) {
+int findPlace(std::string path, Place &place, Links links, LastLink lastLink) {
     const std::size_t slash = path.rfind('/');
     place.folder = Handle(
         systemCalls.openWithoutLinks(path.substr(0, std::max<std::size_t>(slash, 1)).c_str()));
@@ -42,7 +42,7 @@ int findPlace(std::string path, LastLink lastLink, Place &place) {
     } else {
         place.name = "/"; // whatever the folder
     }
-    int links = 0;
+    int followed = 0;
     for (;;) { // `path` is what lies behind the name
         const std::size_t next = path.find_first_not_of('/');
         const bool last = next == std::string::npos;
@@ -52,9 +52,10 @@ int findPlace(std::string path, LastLink lastLink, Place &place) {
             return last && errno == ENOENT ? 0 : errno;
         if (systemCalls.fstat(item.get(), &place.status) != 0)
             return errno;
-        if (place.isLink() && mayFollow(place.status) && (!last || lastLink == LastLink::follow)) {
+        if (place.isLink() && mayFollow(place.status, links) &&
+            (!last || lastLink == LastLink::follow)) {
             const std::string target = targetOf(item);
-            if (target.empty() || ++links > kMostLinks)
+            if (target.empty() || ++followed > kMostLinks)
                 return target.empty() ? errno : ELOOP;
             path.insert(0, target + "/");
             place.name = target.front() == '/' ? "/" : ".";

@@ -7,8 +7,8 @@
 
 namespace norvane::disk {
 
-InputFile::InputFile(const std::string &path, std::string &problem) : path_(path) {
-    int error = findPlace(path, LastLink::follow, place_);
+InputFile::InputFile(const std::string &path, std::string &problem, Links links) : path_(path) {
+    int error = findPlace(path, place_, links);
     if (error == 0 && !place_.isTaken())
         error = ENOENT;
     // Opening a FIFO or a device would already be an act: a writer may wait for it, a tape may

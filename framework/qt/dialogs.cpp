@@ -144,7 +144,7 @@ Ref<FolderItem> Dialogs::cancelled() {
 
 Ref<FolderItem> Dialogs::chosen(const QString &path, const QString &itsFolder) {
     lastFolder_ = itsFolder;
-    return GetFolderItem(QFile::encodeName(path).toStdString());
+    return GetFolderItem(QFile::encodeName(path).toStdString(), 0, Links::all);
 }
 
 } // namespace norvane

@@ -51,6 +51,8 @@ class Desktop {
 /// A modal message with one button; returns when it is dismissed.
 void MsgBox(const std::string &text);
 
+// Of what a person chooses, every link is followed.
+
 /// The file that the user chooses to open among those of the named file type; nil on Cancel.
 Ref<FolderItem> GetOpenFolderItem(const std::string &fileType);
 

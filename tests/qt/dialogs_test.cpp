@@ -5,6 +5,7 @@
 #include <QMessageBox>
 
 #include <csignal>
+#include <unistd.h>
 
 namespace norvane {
 namespace {
@@ -45,7 +46,9 @@ TEST_F(DialogsAndDesktop, NamesArriveAsTheyAre) {
     answerAsItStands("", "SCC files (*.scc *.SCC)");
     cancel();
     click("BevelButton1");
-    folder.write("in \"d\"/x", "");
+    std::filesystem::create_directory(folder.path("linked"));
+    std::filesystem::create_symlink("linked", folder.path("in \"d\""));
+    EXPECT_EQ(lchown(folder.path("in \"d\"").c_str(), 1, 1), geteuid() == 0 ? 0 : -1);
     answerPath(folder.path("in \"d\""));
     click("BevelButton6");
     EXPECT_EQ(window().hotFolder, folder.path("in \"d\"/"));

@@ -98,11 +98,22 @@ TEST_F(Files, AFileIsWrittenWholeOrNotAtAll) {
 }
 
 TEST_F(Files, WhatCameSinceTheLookStays) {
-    for (const bool nameless : {true, false}) {
-        if (!nameless)
-            disk::systemCalls.faccessat = {[](int, const char *, int, int) { return -1; }};
+    // What systems and file systems lack: links, files without a name, a rename that replaces
+    // nothing.
+    disk::SystemCalls calls[5];
+    for (const int row : {1, 2, 3})
+        calls[row].linkat = {[](int, auto, int, auto, int) { return errno = EPERM, -1; }};
+    for (const int row : {2, 3, 4})
+        calls[row].faccessat = {[](int in, auto name, int how, int flags) {
+            return how == X_OK ? -1 : faccessat(in, name, how, flags);
+        }};
+    for (const int row : {3, 4})
+        calls[row].renameToNew = {[](int, auto, int, auto) { return errno = EINVAL, -1; }};
+    std::string name = "a";
+    for (const disk::SystemCalls &some : calls) {
+        disk::systemCalls = some;
         for (const bool comes : {false, true}) {
-            const std::string name = std::to_string(nameless) + std::to_string(comes);
+            ++name.back();
             const auto item = folder.item(name);
             EXPECT_FALSE(item->Exists());
             const auto stream = item->CreateTextFile();
@@ -114,9 +125,13 @@ TEST_F(Files, WhatCameSinceTheLookStays) {
             else
                 stream->Close();
             EXPECT_EQ(folder.read(name), comes ? "theirs" : "mine\n");
+            EXPECT_EQ(modeOf(name), modeOf("b"));
         }
+        folder.item("b")->CreateTextFile()->Close(); // which replaces what is there
+        EXPECT_EQ(folder.read("b"), "");
+        folder.write("b", "mine");
     }
-    EXPECT_EQ(folder.tree(), (Lines{"00", "01", "10", "11"}));
+    EXPECT_EQ(folder.tree().size(), 10U);
     for (const bool replaced : {false, true}) {
         folder.write("input", "old");
         const auto item = folder.item("input");
@@ -135,9 +150,13 @@ TEST_F(Files, WhatAKilledWriterLeftIsRemovedAndNoOthers) {
     folder.write(".norvane-notes", "not ours");
     const int atWork = open(folder.path(".norvane-2.part").c_str(), O_RDONLY);
     ASSERT_EQ(flock(atWork, LOCK_EX), 0);
-    folder.item("a.txt")->CreateTextFile()->Close();
+    disk::systemCalls.linkat = {[](int, auto, int, auto, int) { return errno = EPERM, -1; }};
+    disk::systemCalls.faccessat = {[](int, auto, int, int) { return -1; }};
+    const auto named = folder.item("b.txt")->CreateTextFile();
+    folder.item("/a.txt")->CreateTextFile()->Close(); // swept anew, as by another program
+    named->Close();
     close(atWork);
-    EXPECT_EQ(folder.tree(), (Lines{".norvane-2.part", ".norvane-notes", "a.txt"}));
+    EXPECT_EQ(folder.tree(), (Lines{".norvane-2.part", ".norvane-notes", "a.txt", "b.txt"}));
 }
 
 TEST_F(Files, WhatCannotBeLookedAtIsNotMissing) {

@@ -143,8 +143,13 @@ class NewFile : public TextSink {
   private:
     bool findTarget(std::string &problem, Links links);
     void begin(mode_t mode, std::string &problem);
+    bool openTemporary(mode_t mode);
     void nameTemporary();
+    void giveName(Lasting lasting);
     void takePlace();
+    void takeFreePlace();
+    bool linkTo(const std::string &name) const;
+    std::string openFile() const; // a path of it that is not its name
     [[noreturn]] void fail(int error);
 
     std::string path_;

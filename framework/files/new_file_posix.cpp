@@ -3,6 +3,7 @@
 #include "framework/text/failures.h"
 #include "framework/text/text.h"
 
+#include <array>
 #include <csignal>
 #include <random>
 #include <set>
@@ -18,7 +19,7 @@ constexpr const char *kTemporarySuffix = ".part";
 constexpr mode_t kForUserAlone = 0600;
 constexpr mode_t kForAll = 0666;
 
-[[maybe_unused]] constexpr const char *kOpenFiles = "/proc/self/fd/";
+constexpr const char *kOpenFiles = "/proc/self/fd/";
 
 /// Removes the temporary files of writers that were killed beside `file`, which `path` names, when
 /// it is first asked for a folder. A writer at work holds its file locked.
@@ -80,22 +81,26 @@ bool NewFile::findTarget(std::string &problem, Links links) {
 
 void NewFile::begin(mode_t mode, std::string &problem) {
     removeLeftovers(path_, place_);
-    const int folder = place_.folder.get();
 #ifdef O_TMPFILE
     if (systemCalls.faccessat(AT_FDCWD, kOpenFiles, X_OK, 0) == 0) // by which alone it gets a name
-        handle_ = Handle(systemCalls.openat(folder, ".", O_TMPFILE | O_WRONLY, mode));
+        handle_ = Handle(systemCalls.openat(place_.folder.get(), ".", O_TMPFILE | O_WRONLY, mode));
 #endif
-    if (!isOpen()) {
-        nameTemporary();
-        handle_ = Handle(
-            systemCalls.openat(folder, temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode));
-    }
-    if (isOpen()) {
+    if (isOpen())
         systemCalls.flock(handle_.get(), LOCK_EX | LOCK_NB); // see removeLeftovers
-        return;
+    else if (!openTemporary(mode))
+        problem = inQuotes(path_) + " cannot be created: " + reason(errno) + ".";
+}
+
+bool NewFile::openTemporary(mode_t mode) {
+    nameTemporary();
+    handle_ = Handle(systemCalls.openat(place_.folder.get(), temporary_.c_str(),
+                                        O_WRONLY | O_CREAT | O_EXCL, mode));
+    if (!isOpen()) {
+        temporary_.clear();
+        return false;
     }
-    problem = inQuotes(path_) + " cannot be created: " + reason(errno) + ".";
-    temporary_.clear();
+    systemCalls.flock(handle_.get(), LOCK_EX | LOCK_NB);
+    return true;
 }
 
 void NewFile::nameTemporary() {
@@ -114,37 +119,76 @@ void NewFile::finish(Lasting lasting) {
         systemCalls.fchmod(handle_.get(), *permissions_);
     if (lasting == Lasting::yes && systemCalls.fsync(handle_.get()) != 0)
         fail(errno);
-    takePlace();
+    if (!temporary_.empty() || !linkTo(place_.name)) {
+        if (temporary_.empty())
+            giveName(lasting);
+        isNew_ ? takeFreePlace() : takePlace();
+    }
     if (lasting == Lasting::yes)
         flushNames(place_, path_);
 }
 
+std::string NewFile::openFile() const {
+    return kOpenFiles + std::to_string(handle_.get());
+}
+
+bool NewFile::linkTo(const std::string &name) const {
+    return systemCalls.linkat(AT_FDCWD, openFile().c_str(), place_.folder.get(), name.c_str(),
+                              AT_SYMLINK_FOLLOW) == 0;
+}
+
+/// Gives a name to a file without one, since only that can replace another.
+void NewFile::giveName(Lasting lasting) {
+    if (isNew_ && errno == EEXIST)
+        fail(EEXIST);
+    nameTemporary();
+    if (linkTo(temporary_))
+        return;
+    // Links are refused, so that it takes a copy.
+    const Handle nameless(systemCalls.openat(AT_FDCWD, openFile().c_str(), O_RDONLY, 0));
+    struct stat status {};
+    if (!nameless.isOpen() || systemCalls.fstat(nameless.get(), &status) != 0 ||
+        !openTemporary(kForUserAlone))
+        fail(errno);
+    std::array<char, std::size_t{1} << 16U> block; // NOLINT: filled by the next call
+    ssize_t count = 0;
+    while ((count = systemCalls.read(nameless.get(), block.data(), block.size())) > 0)
+        write({block.data(), static_cast<std::size_t>(count)});
+    systemCalls.fchmod(handle_.get(), status.st_mode & 0777U);
+    if (count < 0 || (lasting == Lasting::yes && systemCalls.fsync(handle_.get()) != 0))
+        fail(errno);
+}
+
 void NewFile::takePlace() {
     const int folder = place_.folder.get();
-#ifdef O_TMPFILE
-    if (temporary_.empty()) {
-        const std::string self = kOpenFiles + std::to_string(handle_.get());
-        const auto linkTo = [&](const std::string &name) {
-            return systemCalls.linkat(AT_FDCWD, self.c_str(), folder, name.c_str(),
-                                      AT_SYMLINK_FOLLOW) == 0;
-        };
-        if (linkTo(place_.name))
-            return;
-        if (isNew_)
-            fail(errno);
-        nameTemporary(); // only a file with a name can replace another
-        if (!linkTo(temporary_))
-            fail(errno);
-    }
-#endif
-    if (isNew_) { // the temporary goes with this object
-        if (systemCalls.linkat(folder, temporary_.c_str(), folder, place_.name.c_str(), 0) == 0)
-            return;
-        if (errno == EEXIST)
-            fail(errno);
-    } // else it has no links, so that all it can do is to rename
     if (systemCalls.renameat(folder, temporary_.c_str(), folder, place_.name.c_str()) != 0)
         fail(errno);
+    temporary_.clear();
+}
+
+/// Takes the target's place unless something has it by now, in one of the ways of which each file
+/// system knows at least one.
+void NewFile::takeFreePlace() {
+    const int folder = place_.folder.get();
+    const char *const from = temporary_.c_str();
+    const char *const to = place_.name.c_str();
+    if (systemCalls.renameToNew(folder, from, folder, to) == 0) {
+        temporary_.clear();
+        return;
+    }
+    if (errno != EEXIST && systemCalls.linkat(folder, from, folder, to, 0) == 0)
+        return; // the other name goes with this object
+    const bool isTaken =
+        errno == EEXIST ||
+        !Handle(systemCalls.openat(folder, to, O_WRONLY | O_CREAT | O_EXCL, kForUserAlone))
+             .isOpen();
+    if (isTaken)
+        fail(errno);
+    if (systemCalls.renameat(folder, from, folder, to) != 0) {
+        const int error = errno;
+        systemCalls.unlinkat(folder, to, 0);
+        fail(error);
+    }
     temporary_.clear();
 }
 

@@ -82,6 +82,21 @@ struct SystemCalls {
     Call<int(int)> fsync{::fsync};
     Call<int(int, const char *, int, const char *, int)> linkat{::linkat};
     Call<int(int, const char *, int, const char *)> renameat{::renameat};
+    /// The same, but fails with EEXIST where something has the new name; not all systems and file
+    /// systems can do that.
+    Call<int(int, const char *, int, const char *)> renameToNew{
+        [](int folder, const char *name, int newFolder, const char *newName) {
+#ifdef SYS_renameat2
+            constexpr unsigned kNoReplace = 1;
+            return static_cast<int>(
+                syscall(SYS_renameat2, folder, name, newFolder, newName, kNoReplace));
+#elif defined(__APPLE__)
+            return ::renameatx_np(folder, name, newFolder, newName, RENAME_EXCL);
+#else
+            return static_cast<void>(folder), static_cast<void>(name), static_cast<void>(newFolder),
+                   static_cast<void>(newName), errno = ENOSYS, -1;
+#endif
+        }};
 };
 
 inline SystemCalls systemCalls;

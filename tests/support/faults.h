@@ -39,7 +39,8 @@ class FailingCall {
                 &SystemCalls::readOpenLink, &SystemCalls::faccessat, &SystemCalls::fdopendir,
                 &SystemCalls::readdir, &SystemCalls::mkdirat, &SystemCalls::unlinkat,
                 &SystemCalls::flock, &SystemCalls::read, &SystemCalls::write, &SystemCalls::fchmod,
-                &SystemCalls::fsync, &SystemCalls::linkat, &SystemCalls::renameat>();
+                &SystemCalls::fsync, &SystemCalls::linkat, &SystemCalls::renameat,
+                &SystemCalls::renameToNew>();
     }
     ~FailingCall() { disk::systemCalls = real_; }
     FailingCall(const FailingCall &) = delete;

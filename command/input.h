@@ -24,6 +24,9 @@ class Input {
     /// Bytes of the file when it was opened; 0 where nobody knows.
     std::size_t size() const { return file_ ? file_->size() : 0; }
 
+    /// Null for standard input.
+    const disk::InputFile *file() const { return file_ ? &*file_ : nullptr; }
+
     /// The next line that is not empty; the empty text at the end. It holds until the next call.
     /// Throws Problem and IOException.
     std::string_view nextLine();

@@ -7,14 +7,17 @@
 #include "framework/text/text.h"
 
 #include <cstdio>
+#include <new>
 
 namespace norvane {
 namespace {
 
 /// Whether all was well with a file of the command line.
 bool doTask(const std::string &argument, const Options &options) {
-    const Place place = options.task == Task::explain ? placeOf(argument) : Place{argument};
+    Place place{argument};
     try {
+        if (options.task == Task::explain)
+            place = placeOf(argument);
         if (options.task == Task::check)
             return checkFile(place.path, options);
         if (options.task == Task::explain)
@@ -24,21 +27,30 @@ bool doTask(const std::string &argument, const Options &options) {
         return true;
     } catch (const Problem &problem) {
         tell(shownName(place.path), problem);
+    } catch (const std::bad_alloc &) {
+        tell(shownName(place.path), {"there is not enough memory."});
     } catch (const std::exception &failure) {
         tell(shownName(place.path), {failure.what()});
     }
     return false;
 }
 
-int run(const Options &options) {
-    if (!options.outputFolder.empty()) {
-        const std::string folder = absolutePath(options.outputFolder);
+bool makeOutputFolder(const std::string &path) {
+    try {
+        const std::string folder = absolutePath(path);
         disk::makeFolders(folder);
-        if (disk::kindOf(folder, disk::Kind::other) != disk::Kind::folder) {
-            tell(printable(options.outputFolder), {"is not a folder and cannot be made one."});
-            return 1;
-        }
+        if (disk::kindOf(folder, disk::Kind::other) == disk::Kind::folder)
+            return true;
+        tell(printable(path), {"is not a folder and cannot be made one."});
+    } catch (const Problem &problem) {
+        tell(printable(path), problem);
     }
+    return false;
+}
+
+int run(const Options &options) {
+    if (!options.outputFolder.empty() && !makeOutputFolder(options.outputFolder))
+        return 1;
     bool allWell = true;
     for (const std::string &file : options.files)
         allWell = doTask(file, options) && allWell;

@@ -58,7 +58,8 @@ std::string bodyOf(Input &input, const Options &options) {
     return transcript.take();
 }
 
-void writeTo(const std::string &path, const TranscriptPieces &pieces, bool force) {
+void writeTo(const std::string &path, const TranscriptPieces &pieces, const disk::InputFile *input,
+             bool force) {
     const std::string absolute = absolutePath(path);
     if (!force && disk::kindOf(absolute) != disk::Kind::missing)
         throw Problem{inQuotes(path) + " exists already; --force replaces it."};
@@ -67,6 +68,8 @@ void writeTo(const std::string &path, const TranscriptPieces &pieces, bool force
     disk::NewFile file(absolute, disk::Readers::byUmask, problem);
     if (!file.isOpen())
         throw Problem{problem};
+    if (input != nullptr && file.replaces(*input))
+        throw Problem{inQuotes(path) + " is the input itself, which stays as it is."};
     if (!force)
         file.mustBeNew();
     for (const std::string_view piece : pieces)
@@ -88,7 +91,8 @@ void transcribe(const std::string &path, const Options &options) {
         return;
     }
     const std::string separator = options.outputFolder.ends_with('/') ? "" : "/";
-    writeTo(options.outputFolder + separator + baseName + ".txt", pieces, options.force);
+    writeTo(options.outputFolder + separator + baseName + ".txt", pieces, input.file(),
+            options.force);
 }
 
 } // namespace norvane

@@ -128,6 +128,9 @@ class NewFile : public TextSink {
 
     bool isOpen() const { return handle_.isOpen(); }
 
+    /// Whether it would take the place of `input`, under this name or another.
+    bool replaces(const InputFile &input) const { return input.isAt(place_); }
+
     /// From here on it takes no other file's place: if one has come there, `commit` fails.
     void mustBeNew() { isNew_ = true; }
 

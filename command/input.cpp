@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <new>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -112,6 +113,20 @@ void tell(const std::string &shownFile, const Problem &problem) {
     std::fputs(
         (shownFile + ":" + (place.empty() ? " " : "") + place + problem.text + "\n" + help).c_str(),
         stderr);
+}
+
+bool doAndTell(const std::string &shownFile, const std::function<void()> &work) {
+    try {
+        work();
+        return true;
+    } catch (const Problem &problem) {
+        tell(shownFile, problem);
+    } catch (const std::bad_alloc &) {
+        tell(shownFile, {"there is not enough memory."});
+    } catch (const std::exception &failure) {
+        tell(shownFile, {failure.what()});
+    }
+    return false;
 }
 
 bool inputIsPiped() {

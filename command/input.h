@@ -6,6 +6,7 @@
 #include "framework/text/line_reader.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -57,6 +58,10 @@ std::string shownName(const std::string &path);
 
 /// Prints a problem of a file to standard error.
 void tell(const std::string &shownFile, const Problem &problem);
+
+/// Does `work`. What it throws is told as a problem of `shownFile`, a text that it may change.
+/// Whether it threw nothing.
+bool doAndTell(const std::string &shownFile, const std::function<void()> &work);
 
 /// Whether something can be read from standard input that nobody types.
 bool inputIsPiped();

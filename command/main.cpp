@@ -3,36 +3,28 @@
 #include "command/report_files.h"
 #include "command/transcribe.h"
 #include "framework/files/disk.h"
-#include "framework/text/failures.h"
 #include "framework/text/text.h"
 
 #include <cstdio>
-#include <new>
 
 namespace norvane {
 namespace {
 
 /// Whether all was well with a file of the command line.
 bool doTask(const std::string &argument, const Options &options) {
-    Place place{argument};
-    try {
-        if (options.task == Task::explain)
-            place = placeOf(argument);
+    std::string shown = shownName(argument);
+    bool isClean = true;
+    const bool isDone = doAndTell(shown, [&] {
+        const Place place = options.task == Task::explain ? placeOf(argument) : Place{argument};
+        shown = shownName(place.path);
         if (options.task == Task::check)
-            return checkFile(place.path, options);
-        if (options.task == Task::explain)
+            isClean = checkFile(place.path, options);
+        else if (options.task == Task::explain)
             explainFile(place, options);
         else
             transcribe(place.path, options);
-        return true;
-    } catch (const Problem &problem) {
-        tell(shownName(place.path), problem);
-    } catch (const std::bad_alloc &) {
-        tell(shownName(place.path), {"there is not enough memory."});
-    } catch (const std::exception &failure) {
-        tell(shownName(place.path), {failure.what()});
-    }
-    return false;
+    });
+    return isDone && isClean;
 }
 
 bool makeOutputFolder(const std::string &path) {

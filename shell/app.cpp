@@ -42,9 +42,10 @@ void _NewAppInstance() { // NOLINT: the steps are named as the start-up names th
 void _ApplicationAddMenuHandlers() { // NOLINT
     App &app = App::the();
     // No item bears the first two names: the handlers stand ready for a command of that name.
-    app.addMenuHandler("FileNewWindow", [&app] { return app._FileNewWindow_Action(); });
-    app.addMenuHandler("FileEnableHotFolder", [&app] { return app._FileEnableHotFolder_Action(); });
-    app.addMenuHandler("FileAboutNorvane", [&app] { return app._FileAboutNorvane_Action(); });
+    app._AddMenuHandler("FileNewWindow", [&app] { return app._FileNewWindow_Action(); });
+    app._AddMenuHandler("FileEnableHotFolder",
+                        [&app] { return app._FileEnableHotFolder_Action(); });
+    app._AddMenuHandler("FileAboutNorvane", [&app] { return app._FileAboutNorvane_Action(); });
 }
 
 void _MakeDefaultView() { // NOLINT

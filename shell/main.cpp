@@ -3,11 +3,24 @@
 
 #include <QApplication>
 
-int main(int argc, char **argv) {
+namespace {
+
+int _RuntimeRun() { // NOLINT: named as the step of the start-up that it is
+    return QApplication::exec();
+}
+
+/// The program, from its desktop to the end of the event loop. Gives the exit status.
+int _Main() { // NOLINT
     norvane::disk::surviveSizeLimits();
-    QApplication toolkit(argc, argv); // which scales to the screen by itself
     norvane::QtDesktop desktop;
     desktop.quitOnSignals();
     norvane::start(desktop);
-    return QApplication::exec();
+    return _RuntimeRun();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    const QApplication toolkit(argc, argv); // no _SetSupportsHiDPI: it scales by itself
+    return _Main();
 }

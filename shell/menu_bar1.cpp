@@ -16,8 +16,8 @@ void MenuBar1::Untitled0() {
     menus.push_back({.Name = "FileMenu",
                      .Text = "&File",
                      .items = {
-                         {"FileQuit", "&Quit", "Cmd+Q", MenuKind::quit},
-                         {"FileAboutNorvane", "About Norvane", "", MenuKind::preferences},
+                         {"FileQuit", "&Quit", "Cmd+Q", MenuKind::QuitMenuItem},
+                         {"FileAboutNorvane", "About Norvane", "", MenuKind::PrefsMenuItem},
                      }});
 }
 

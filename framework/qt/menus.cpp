@@ -48,9 +48,9 @@ const EditCommand *editCommand(const MenuItem &item) {
 
 QAction::MenuRole roleOf(MenuKind kind) {
     switch (kind) {
-    case MenuKind::quit:
+    case MenuKind::QuitMenuItem:
         return QAction::QuitRole;
-    case MenuKind::preferences:
+    case MenuKind::PrefsMenuItem:
         return QAction::PreferencesRole;
     default:
         return QAction::NoRole;
@@ -107,7 +107,7 @@ bool Menus::canRun(const MenuItem &item) const {
 }
 
 void Menus::run(const MenuItem &item) {
-    if (item.kind == MenuKind::quit)
+    if (item.kind == MenuKind::QuitMenuItem)
         quit_();
     else if (const EditCommand *command = editCommand(item); command == nullptr)
         application_.menuCommand(item.Name);

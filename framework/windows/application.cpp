@@ -4,7 +4,7 @@
 
 namespace norvane {
 
-void Application::addMenuHandler(const std::string &itemName, MenuHandler handler) {
+void Application::_AddMenuHandler(const std::string &itemName, MenuHandler handler) {
     std::erase_if(bindings_, [&](const Binding &old) { return old.itemName == itemName; });
     bindings_.push_back({itemName, std::move(handler)});
 }

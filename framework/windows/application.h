@@ -27,7 +27,7 @@ class Application {
 
     /// Binds a handler to the items named `itemName`, of which there may be none, in the place of
     /// an earlier one.
-    void addMenuHandler(const std::string &itemName, MenuHandler handler);
+    void _AddMenuHandler(const std::string &itemName, MenuHandler handler); // NOLINT: as named
 
     /// Runs the handler of a name, under the guard; a name without one does nothing.
     void menuCommand(const std::string &itemName) const;

@@ -8,8 +8,8 @@ namespace norvane {
 enum class MenuKind {
     plain,
     separator,
-    quit,       // stands where the platform keeps Quit
-    preferences // stands where the platform keeps its settings item
+    QuitMenuItem, // stands where the platform keeps Quit
+    PrefsMenuItem // stands where the platform keeps its settings item
 };
 
 /// An item of a menu, or a menu with its items. "&" marks the access letter.

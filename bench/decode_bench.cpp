@@ -87,7 +87,7 @@ void oneLine(benchmark::State &state, const std::string &piece) {
 }
 std::string everyKey() {
     std::string keys;
-    for (const TableRow &row : kReplacementChain)
+    for (const TableRow &row : replacementChain)
         keys.append(row.key).append(" ");
     return keys;
 }

@@ -1,6 +1,6 @@
 #include "bench/made_scc.h"
 
-#include "decode/letters.h"
+#include "decode/letter_table.h"
 
 #include <array>
 #include <bit>

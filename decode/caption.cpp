@@ -1,7 +1,7 @@
 #include "decode/caption.h"
 
 #include "decode/chain_table.h"
-#include "decode/letters.h"
+#include "decode/letter_table.h"
 #include "decode/replacement_chain.h"
 #include "decode/words.h"
 #include "framework/text/text.h"
@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::string_view kTwoBlanks = "2020"; // as caption bytes
 
-/// Each pair of characters to its letter, or as it is. An odd character at the end is dropped.
+/// Each pair of characters to its letter, or as it is; an odd character at the end is dropped. In
+/// place of a charArray, a pairArray and convertSCC2Letters on each pair.
 std::string letters(std::string_view text) {
     std::string result;
     result.reserve(text.size());
@@ -45,7 +46,7 @@ void appendCaption(std::string &captions, std::string_view hexText) {
     if (characterSize(text) == text.size())
         throw OutOfBoundsException("the codes " + startInQuotes(hexText) +
                                    " leave no pair of characters.");
-    const TableRow &marks = kReplacementChain[kMarksRow - 1];
+    const TableRow &marks = replacementChain[kMarksRow - 1];
     captions += ReplaceAll(letters(text), marks.key, marks.with);
 }
 

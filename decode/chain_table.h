@@ -173,7 +173,7 @@ inline constexpr std::size_t kLastWalkedRow = 581;
 inline constexpr std::size_t kMarksRow = 582;
 
 /// The rows one by one; row r stands at index r - 1.
-inline constexpr std::array<TableRow, kChainRows> kReplacementChain = [] {
+inline constexpr std::array<TableRow, kChainRows> replacementChain = [] {
     std::array<TableRow, kChainRows> rows{};
     std::size_t row = 0;
     for (const ChainGroup &group : kChainGroups) {
@@ -193,8 +193,8 @@ inline constexpr std::array<TableRow, kChainRows> kReplacementChain = [] {
     return rows;
 }();
 
-static_assert(kReplacementChain[kBlanksRow - 1].key == " ");
-static_assert(kReplacementChain[kFillerRow - 1].key == "80");
-static_assert(kReplacementChain[kMarksRow - 1].key == "****");
+static_assert(replacementChain[kBlanksRow - 1].key == " ");
+static_assert(replacementChain[kFillerRow - 1].key == "80");
+static_assert(replacementChain[kMarksRow - 1].key == "****");
 
 } // namespace norvane

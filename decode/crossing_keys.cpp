@@ -75,7 +75,7 @@ struct Trie {
 constexpr CrossingKeys kCrossingKeys = [] {
     Trie trie;
     for (std::size_t row = kBlanksRow + 1; row <= kLastWalkedRow; ++row) {
-        const std::string_view key = kReplacementChain[row - 1].key;
+        const std::string_view key = replacementChain[row - 1].key;
         if (isHexDigit(key[0]))
             trie.addBeginningsOf(key);
     }

@@ -10,9 +10,6 @@ namespace norvane {
 /// wherever its two digits stand. What no row knows stays as it is.
 std::string convertSCC2Letters(std::string_view text);
 
-/// What convertSCC2Letters gives for the caption byte `byte`; empty when no row knows it.
-std::string_view letterOf(unsigned char byte);
-
 /// Code words of special and extended characters (CEA-608), four hex digits, to the characters
 /// alone, without the blank that the replacement chain puts behind them. No stage of a decode uses
 /// it.

@@ -39,7 +39,7 @@ std::size_t nextRow(std::string_view text, std::size_t row) {
         bars |= c == '|';
     }
     for (std::size_t other = row + 1; bars && other < next; ++other) {
-        if (kReplacementChain[other - 1].key[0] == '|')
+        if (replacementChain[other - 1].key[0] == '|')
             next = other;
     }
     return next;
@@ -64,7 +64,7 @@ std::optional<std::string> replaceWholeWords(std::string_view text) {
             result += word;
             continue;
         }
-        for (const char c : kReplacementChain[row - 1].with) {
+        for (const char c : replacementChain[row - 1].with) {
             if (c != ' ')
                 result += c;
         }
@@ -81,7 +81,7 @@ std::string replaceCodeWords(std::string_view hexText) {
     std::size_t row = words ? kBlanksRow : kFirstWalkedRow - 1;
     std::string text = words ? std::move(*words) : std::string(hexText);
     while ((row = nextRow(text, row)) <= kLastWalkedRow)
-        text = ReplaceAll(text, kReplacementChain[row - 1].key, kReplacementChain[row - 1].with);
+        text = ReplaceAll(text, replacementChain[row - 1].key, replacementChain[row - 1].with);
     return text;
 }
 

@@ -19,7 +19,7 @@ struct RowsOfCode {
 inline constexpr RowsOfCode kRowsOfCode = [] {
     RowsOfCode rows;
     for (std::size_t row = kChainRows; row > 0; --row) {
-        const std::string_view key = kReplacementChain.at(row - 1).key;
+        const std::string_view key = replacementChain.at(row - 1).key;
         if (!isCodeWord(key))
             continue;
         rows.next.at(row) = rows.first.at(codeOf(key));

@@ -2,7 +2,7 @@
 
 #include "decode/chain_table.h"
 #include "decode/crossing_keys.h"
-#include "decode/letters.h"
+#include "decode/letter_table.h"
 #include "decode/rows_of_code.h"
 #include "framework/text/text.h"
 
@@ -10,7 +10,8 @@
 #include <cstdint>
 #include <cstring>
 
-// How a line is decoded word by word, and why that gives what the rows give one after another.
+// How a line is decoded word by word, in place of 580 replacements on the whole of it, a charArray
+// cut into a pairArray, and convertSCC2Letters on each pair; and why that gives the same.
 //
 // As long as the blanks stand between the words, a key of four digits can match nothing but a whole
 // word, so up to the row that deletes the blanks each word meets the first row that has it as its
@@ -48,7 +49,7 @@ constexpr auto characters(std::string_view text) {
 template <class Property>
 constexpr bool holdsForWalkedRows(Property property) {
     for (std::size_t row = kFirstWalkedRow; row <= kLastWalkedRow; ++row) {
-        if (!property(row, kReplacementChain[row - 1].key, kReplacementChain[row - 1].with))
+        if (!property(row, replacementChain[row - 1].key, replacementChain[row - 1].with))
             return false;
     }
     return true;
@@ -91,7 +92,7 @@ static_assert(holdsForWalkedRows([](std::size_t, std::string_view, std::string_v
               }),
               "a piece holds any replacement");
 
-Piece pieceOf(std::string_view text) {
+constexpr Piece pieceOf(std::string_view text) {
     Piece piece;
     for (const char c : text)
         piece.text.at(piece.size++) = c;
@@ -111,8 +112,8 @@ struct WordEffect {
 };
 
 WordEffect effectOf(std::size_t row) {
-    const auto &[key, with] = kReplacementChain.at(row - 1);
-    const TableRow &marks = kReplacementChain.at(kMarksRow - 1);
+    const auto &[key, with] = replacementChain.at(row - 1);
+    const TableRow &marks = replacementChain.at(kMarksRow - 1);
     WordEffect effect;
     effect.late = row > kBlanksRow;
     if (!effect.late) {
@@ -134,15 +135,15 @@ WordEffect effectOf(std::size_t row) {
 const std::array<WordEffect, kLastWalkedRow + 1> kEffects = [] {
     std::array<WordEffect, kLastWalkedRow + 1> effects{};
     for (std::size_t row = kFirstWalkedRow; row <= kLastWalkedRow; ++row) {
-        if (isCodeWord(kReplacementChain.at(row - 1).key))
+        if (isCodeWord(replacementChain.at(row - 1).key))
             effects.at(row) = effectOf(row);
     }
     return effects;
 }();
 
 /// The bytes by their values.
-const std::array<Piece, 256> kLetterOf = [] {
-    std::array<Piece, 256> letters;
+constexpr std::array<Piece, 256> kLetterOf = [] {
+    std::array<Piece, 256> letters{};
     for (unsigned byte = 0; byte < letters.size(); ++byte)
         letters.at(byte) = pieceOf(letterOf(static_cast<unsigned char>(byte)));
     return letters;
@@ -152,34 +153,40 @@ constexpr unsigned kFillerByte = 0x80;
 constexpr unsigned kIsByte = 0x100;       // beside a byte's value: there is one
 constexpr unsigned kIsOnlyLetter = 0x200; // it has a letter, and no code word begins with it
 
-/// The byte of two hex digits, with its marks, by their place in memory read as a number; 0 for
-/// other characters. Few pages of it are ever written or read.
-constinit std::array<std::uint16_t, 0x10000> bytesOfDigits{};
+/// Bytes with their marks.
+constexpr std::array<std::uint16_t, 256> kMarkedBytes = [] {
+    std::array<std::uint16_t, 256> bytes{};
+    for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
+        const auto *codes = &kRowsOfCode.first.at(byte * 0x100);
+        const bool beginsCode =
+            std::any_of(codes, codes + 0x100, [](auto row) { return row != 0; });
+        const bool onlyLetter = kLetterOf.at(byte).size != 0 && !beginsCode;
+        bytes.at(byte) =
+            static_cast<std::uint16_t>(byte | kIsByte | (onlyLetter ? kIsOnlyLetter : 0));
+    }
+    return bytes;
+}();
 
-std::uint16_t placeOfDigits(const char *digits) {
-    std::uint16_t place = 0;
-    std::memcpy(&place, digits, sizeof place); // std::bit_cast is not in every library yet
-    return place;
+constexpr std::size_t numberOf(const char *digits) { // one load of two bytes
+    return static_cast<unsigned char>(digits[0]) | static_cast<unsigned char>(digits[1]) << 8U;
 }
 
-const bool kBytesFilled = [] {
+/// The marked byte of two hex digits, by their number; 0 for other characters. Few pages of it are
+/// ever read.
+constexpr std::array<std::uint16_t, 0x10000> kBytesOfDigits = [] {
     constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
+    std::array<std::uint16_t, 0x10000> bytes{};
     for (const char first : kDigits) {
         for (const char second : kDigits) {
             const std::array<char, 2> digits = {first, second};
-            const auto byte = codeOf({digits.data(), 2});
-            const auto *codes = &kRowsOfCode.first.at(byte * 0x100);
-            const bool beginsCode =
-                std::any_of(codes, codes + 0x100, [](auto row) { return row != 0; });
-            bytesOfDigits.at(placeOfDigits(digits.data())) = static_cast<std::uint16_t>(
-                byte | kIsByte | (kLetterOf.at(byte).size != 0 && !beginsCode ? kIsOnlyLetter : 0));
+            bytes.at(numberOf(digits.data())) = kMarkedBytes.at(codeOf({digits.data(), 2}));
         }
     }
-    return true;
+    return bytes;
 }();
 
 unsigned byteAt(const char *digits) {
-    return bytesOfDigits[placeOfDigits(digits)];
+    return kBytesOfDigits[numberOf(digits)];
 }
 
 /// Reads words and writes what becomes of them.

@@ -1,5 +1,6 @@
 #include "decode/caption.h"
 #include "decode/crossing_keys.h"
+#include "decode/letter_table.h"
 #include "decode/letters.h"
 #include "decode/replacement_chain.h"
 #include "decode/rows_of_code.h"

@@ -1,6 +1,7 @@
 #include "decode/accent_pairs.h"
 #include "decode/caption.h"
 #include "decode/chain_table.h"
+#include "decode/letter_table.h"
 #include "decode/letters.h"
 #include "framework/text/text.h"
 
@@ -106,7 +107,7 @@ TEST(Tables, ChainIsThatOfItsFingerprint) {
             print = (print ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
         print = (print ^ 0xFFU) * 0x100000001B3U;
     };
-    for (const TableRow &row : kReplacementChain) {
+    for (const TableRow &row : replacementChain) {
         add(row.key);
         add(row.with);
     }

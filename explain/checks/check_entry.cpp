@@ -14,7 +14,7 @@ namespace {
 /// Whether a row ahead of the deletion of the blanks puts an odd number of characters in the place
 /// of a word, its blank aside.
 constexpr bool isOddRow(std::size_t row) {
-    const std::string_view with = kReplacementChain[row - 1].with;
+    const std::string_view with = replacementChain[row - 1].with;
     return std::count_if(with.begin(), with.end(),
                          [](char c) {
                              return c != ' ' && (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;

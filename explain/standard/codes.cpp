@@ -1,6 +1,6 @@
 #include "explain/standard/codes.h"
 
-#include "decode/letters.h"
+#include "decode/letter_table.h"
 #include "framework/text/text.h"
 
 #include <array>

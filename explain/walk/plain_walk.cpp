@@ -18,7 +18,7 @@ void emptyIfBlank(TracedText &entry) {
 
 void replaceCodeWords(TracedText &text) {
     for (std::size_t row = kFirstWalkedRow; row <= kLastWalkedRow; ++row)
-        text.replaceAll(kReplacementChain[row - 1].key, kReplacementChain[row - 1].with, row);
+        text.replaceAll(replacementChain[row - 1].key, replacementChain[row - 1].with, row);
 }
 
 bool readLetters(TracedText &text) {
@@ -41,7 +41,7 @@ bool readLetters(TracedText &text) {
     if (start < text.text().size()) // an odd character at the end
         pieces.push_back({start, text.text().size() - start, ""});
     text.replace(pieces);
-    const TableRow &marks = kReplacementChain[kMarksRow - 1];
+    const TableRow &marks = replacementChain[kMarksRow - 1];
     text.replaceAll(marks.key, marks.with, kMarksRow);
     return true;
 }

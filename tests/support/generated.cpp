@@ -1,7 +1,7 @@
 #include "tests/support/generated.h"
 
 #include "decode/chain_table.h"
-#include "decode/letters.h"
+#include "decode/letter_table.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -35,7 +35,7 @@ std::string GeneratedHexText::word(bool ordinary) {
     constexpr std::string_view kOddities[] = {"|",    "||",   "| |",  "é",    "♪",   "\xFF", "\xC3",
                                               "\0"sv, "*",    "xyz",  "  ",   "80",  "8",    "",
                                               "9420", "94ae", "97a3", "****", "942c"};
-    std::string key(kReplacementChain.at(1 + below(580)).key);
+    std::string key(replacementChain.at(1 + below(580)).key);
     std::string oddity(kOddities[below(std::size(kOddities))]);
     const unsigned cut = below(static_cast<unsigned>(key.size()));
     switch (below(ordinary ? 12 : 18)) {

@@ -3,7 +3,7 @@
 #include "decode/chain_table.h"
 #include "framework/headless/headless_desktop.h"
 #include "shell/window1.h"
-#include "tests/support/plain_walk.h"
+#include "tests/support/plain_road.h"
 #include "transcript/clean_up.h"
 #include "transcript/layout.h"
 

@@ -2,19 +2,19 @@
 
 #include "decode/caption.h"
 #include "decode/timecode.h"
+#include "framework/text/reg_ex.h"
 #include "framework/text/text.h"
 
 namespace norvane {
 
 namespace {
 
-/// Whether two digits and a colon stand somewhere in a line.
+/// Whether two digits and a colon stand somewhere in a line, which nearly all begin with.
 bool holdsTimecode(std::string_view line) {
-    for (std::size_t at = 0; at + 2 < line.size(); ++at) {
-        if (isDigit(line[at]) && isDigit(line[at + 1]) && line[at + 2] == ':')
-            return true;
-    }
-    return false;
+    if (line.size() > 2 && isDigit(line[0]) && isDigit(line[1]) && line[2] == ':')
+        return true;
+    static const RegEx patternRegEx{R"(\d\d\:)"};
+    return patternRegEx.Search(line);
 }
 
 } // namespace
@@ -22,7 +22,8 @@ bool holdsTimecode(std::string_view line) {
 constexpr std::string_view kNotSccMessage = "This file does not have the .scc extension.";
 
 bool isSccName(std::string_view name) {
-    return findIgnoringCase(name, "scc", 1) != std::string_view::npos;
+    const RegEx patternRegEx{".scc"};
+    return patternRegEx.Search(name);
 }
 
 std::vector<std::string_view> keptLines(std::string_view text) {
@@ -42,6 +43,8 @@ std::string_view messageOf(Refusal refusal) {
                  "between the timecode and the hexidecimal caption code.";
 }
 
+// In place of a `tabRegEx` and of a `fieldArray` that the line is split into: one look for each
+// tab.
 std::variant<DataLine, Refusal> takeApart(std::string_view line) {
     if (!holdsTimecode(line))
         return Refusal::noTimecode;

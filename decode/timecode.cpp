@@ -32,16 +32,6 @@ std::array<double, count> fieldsOf(std::string_view timecode) {
     return fields;
 }
 
-double sccSeconds(std::string_view timecode) {
-    const auto [hours, minutes, seconds, frames] = fieldsOf<4>(timecode);
-    return hours * 3600 + minutes * 60 + seconds + frames / kFramesPerSecond;
-}
-
-/// What goes through the text of Str and is read again.
-double sevenDigits(double value) {
-    return Val(Str(value));
-}
-
 /// The frames of "HH:MM:SS:FF", each ":" or ";", within a day; nothing for another text.
 std::optional<std::uint32_t> ordinaryFrames(std::string_view timecode) {
     constexpr std::array<std::uint32_t, 4> kPerField = {0, 60, 60, kFramesPerSecond};
@@ -61,7 +51,8 @@ std::optional<std::uint32_t> ordinaryFrames(std::string_view timecode) {
     return frames < kDay ? std::optional(frames) : std::nullopt;
 }
 
-/// The start of an ordinary line in whole numbers: frames and characters are multiples of 1/150 s,
+/// The start of an ordinary line in whole numbers, in place of timecodeToSecondsSCC and
+/// returnTimecode: frames and characters are multiples of 1/150 s,
 /// and half of that is the unit. Seven digits of seconds are off by too little to count, but from
 /// 10,000 s on, where they are whole hundredths. Seven digits of minutes take what is less than
 /// 10 units before a minute to the next one at times, and what is that minute to this one: the
@@ -103,7 +94,8 @@ std::string ordinaryStart(std::string_view timecode, std::size_t characters) {
 } // namespace
 
 std::string timecodeToSecondsSCC(std::string_view timecode) {
-    return Str(sccSeconds(timecode));
+    const auto [hours, minutes, seconds, frames] = fieldsOf<4>(timecode);
+    return Str(hours * 3600 + minutes * 60 + seconds + frames / kFramesPerSecond);
 }
 
 std::string timeCodeToSeconds(std::string_view timecode) {
@@ -112,19 +104,24 @@ std::string timeCodeToSeconds(std::string_view timecode) {
 }
 
 // Numbers go from step to step as texts of seven significant digits, and what that loses belongs to
-// the result: a quotient that rounds up to a whole minute is that minute.
+// the result: a quotient that rounds up to a whole minute is that minute, and the rest below zero
+// becomes "0-..." and so nothing.
 std::string returnTimecode(double seconds) {
-    double allMinutes = 0;
+    std::string hoursText = "00";
+    std::string minutesText = "00";
+    std::string secondsText = Str(seconds);
     if (seconds >= 60) {
-        const std::string text = Str(seconds / 60);
-        allMinutes = Val(text.substr(0, text.find('.'))); // kept: of an exponent form, the digit
+        minutesText = Format(Val(Split(Str(seconds / 60), ".")[0]), "00");
+        secondsText = Str(seconds - Val(minutesText) * 60);
     }
-    const double hours = Floor(allMinutes / 60);
-    const double minutes = sevenDigits(allMinutes - hours * 60);
-    // Below zero, the text of the rest is below 10 and gets a "0" in front of its sign. The decimal
-    // mark is a point everywhere, so there is no comma to replace.
-    const double rest = std::max(0.0, sevenDigits(seconds - allMinutes * 60));
-    return Format(hours, "00") + ":" + Format(minutes, "00") + ":" + Format(rest, "00.00");
+    if (Val(secondsText) < 10)
+        secondsText = "0" + secondsText;
+    if (Val(minutesText) >= 60) {
+        hoursText = Format(Floor(Val(minutesText) / 60), "00");
+        minutesText = Str(Val(minutesText) - Val(hoursText) * 60);
+    }
+    return hoursText + ":" + Format(Val(minutesText), "00") + ":" +
+           Format(Val(secondsText), "00.00"); // whose decimal mark is a point everywhere
 }
 
 std::string unbufferedTimecode(std::string_view timecode, std::string_view hexText) {
@@ -136,7 +133,7 @@ std::string unbufferedTimecode(std::string_view timecode, std::string_view hexTe
     std::replace(time.begin(), time.end(), ';', ':');
     const double bufferTime =
         static_cast<double>(characters) / kCharactersPerWord / kFramesPerSecond;
-    time = returnTimecode(sevenDigits(sccSeconds(time)) + bufferTime);
+    time = returnTimecode(Val(timecodeToSecondsSCC(time)) + bufferTime);
     return time;
 }
 

@@ -3,7 +3,7 @@
 #include "explain/checks/check.h"
 #include "explain/reports/report.h"
 #include "framework/text/failures.h"
-#include "tests/support/plain_walk.h"
+#include "tests/support/plain_road.h"
 #include "transcript/layout.h"
 
 #include <cstdint>

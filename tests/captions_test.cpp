@@ -7,7 +7,7 @@
 #include "decode/words.h"
 #include "framework/text/text.h"
 #include "tests/support/generated.h"
-#include "tests/support/plain_walk.h"
+#include "tests/support/plain_road.h"
 
 #include <cstdio>
 #include <cstdlib>

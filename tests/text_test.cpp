@@ -1,6 +1,7 @@
 #include "decode/data_line.h"
 #include "framework/files/text_streams.h"
 #include "framework/text/c_locale_numbers.h"
+#include "framework/text/reg_ex.h"
 #include "framework/text/text.h"
 
 #include <cmath>
@@ -139,6 +140,14 @@ TEST(Text, ArraysKeepTheirBounds) {
 }
 
 TEST(Text, NamesAndLinesAreSearchedForPatterns) {
+    const std::pair<RegEx, const char *> found[] = {
+        {{"B."}, "aab\n"}, {{"[^ *|]\\d\\["}, "*0[é9[x"}, {{"ß"}, "ß"}, {{""}, ""}};
+    for (const auto &[pattern, text] : found)
+        EXPECT_TRUE(pattern.Search(text)) << pattern.SearchPattern;
+    const std::pair<RegEx, const char *> missed[] = {
+        {{"b."}, "aab"}, {{"[^Ab é]"}, "a Bé"}, {{"\\d"}, "d٣"}, {{"ß"}, "\xC3"}};
+    for (const auto &[pattern, text] : missed)
+        EXPECT_FALSE(pattern.Search(text)) << pattern.SearchPattern;
     for (const char *name : {"a.SCC.txt", "xscc", "\nscc", "sccscc"})
         EXPECT_TRUE(isSccName(name)) << name;
     for (const char *name : {"scc", "file.txt", ""})

@@ -1,5 +1,5 @@
 #include "framework/text/failures.h"
-#include "tests/support/plain_walk.h"
+#include "tests/support/plain_road.h"
 #include "transcript/clean_up.h"
 #include "transcript/layout.h"
 

@@ -2,6 +2,7 @@
 
 #include "decode/accent_pairs.h"
 #include "framework/text/find_any.h"
+#include "framework/text/reg_ex.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -16,13 +17,10 @@ constexpr std::string_view kBar = "|";
 /// What the first text pass looks for; it takes the blank.
 constexpr std::string_view kTabPass = "]\\t ";
 
-/// What the second pass looks for: kept as these five characters, which are no pattern there.
-constexpr std::string_view kLiteralPattern = "[^ *]";
-
-void removeFirst(std::string &entry, std::string_view find, std::string_view unlessOnly) {
-    const std::size_t at = entry.find(find);
-    if (at != std::string::npos && entry.find_first_not_of(unlessOnly) != std::string::npos)
-        entry.erase(at, find.size());
+/// An entry pass: what matches loses the first `find`.
+void pass(std::string &entry, const RegEx &captionRegEx, std::string_view find) {
+    if (captionRegEx.Search(entry))
+        entry = Replace(entry, find, "");
     if (entry == " ")
         entry.clear();
 }
@@ -74,11 +72,13 @@ std::size_t nextChange(std::string_view text, std::size_t start) {
 } // namespace
 
 void cleanEntry(std::string &caption) {
-    if (caption != " " && findAny<kBar[0], kLiteralPattern[0]>(caption) == caption.size())
+    if (caption != " " && findAny<'|', '['>(caption) == caption.size())
         return; // no pass would change it
-    removeFirst(caption, kBar, kBar);
-    removeFirst(caption, kLiteralPattern, " *");
-    removeFirst(caption, kBar, " *");
+    RegEx captionRegEx{"[^|]"};
+    pass(caption, captionRegEx, kBar);
+    captionRegEx.SearchPattern = "[^ *]";
+    pass(caption, captionRegEx, captionRegEx.SearchPattern); // kept: its five characters, as text
+    pass(caption, captionRegEx, kBar);
 }
 
 void cleanEntries(TextArray &captions) {
@@ -91,9 +91,10 @@ void cleanEntries(TextArray &captions) {
     }
 }
 
-// The passes in one go. They do not disturb each other: a hyphen goes because of the character
-// before it, which stays; bars count as blanks before blanks are folded; and the first pass, which
-// comes before all that, takes a blank of its own. None reaches across an end of line.
+// The four passes of replacements in one go. They do not disturb each other: a hyphen goes because
+// of the character before it, which stays; bars count as blanks before blanks are folded; and the
+// first pass, which comes before all that, takes a blank of its own. None reaches across an end of
+// line.
 void cleanTranscript(std::string &transcriptText, std::size_t start) {
     constexpr std::size_t kEighth = 8; // what three halvings, each rounded up, leave of a run
     const std::string_view text = transcriptText; // a cut moves only what was read

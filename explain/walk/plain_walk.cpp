@@ -3,13 +3,16 @@
 #include "decode/accent_pairs.h"
 #include "decode/chain_table.h"
 #include "decode/letters.h"
+#include "framework/text/reg_ex.h"
 #include "framework/text/text.h"
 
 namespace norvane::plain {
 
 namespace {
 
-void emptyIfBlank(TracedText &entry) {
+void pass(TracedText &entry, const RegEx &captionRegEx, std::string_view find) {
+    if (captionRegEx.Search(entry.text()))
+        entry.replaceFirst(find, "");
     if (entry.text() == " ")
         entry.replace({{0, 1, ""}});
 }
@@ -24,18 +27,18 @@ void replaceCodeWords(TracedText &text) {
 bool readLetters(TracedText &text) {
     if (text.text().empty())
         text.replace({{0, 0, "2020"}});
-    const TextArray characters = Split(text.text(), "");
-    if (characters.size() == 1)
+    const TextArray charArray = Split(text.text(), "");
+    if (charArray.size() == 1)
         return false;
-    std::vector<std::string> letters; // behind each pair that becomes another text
+    std::vector<std::string> pairArray;
     std::vector<TracedText::Piece> pieces;
     std::size_t start = 0;
-    letters.reserve(characters.size());
-    for (std::size_t i = 0; i + 1 < characters.size(); i += 2) {
-        const std::string pair = std::string(characters[i]).append(characters[i + 1]);
-        letters.push_back(convertSCC2Letters(pair));
-        if (letters.back() != pair)
-            pieces.push_back({start, pair.size(), letters.back()});
+    pairArray.reserve(charArray.size()); // whose texts the pieces view
+    for (std::size_t i = 0; i + 1 < charArray.size(); i += 2) {
+        const std::string pair = std::string(charArray[i]).append(charArray[i + 1]);
+        pairArray.push_back(convertSCC2Letters(pair));
+        if (pairArray.back() != pair)
+            pieces.push_back({start, pair.size(), pairArray.back()});
         start += pair.size();
     }
     if (start < text.text().size()) // an odd character at the end
@@ -47,18 +50,11 @@ bool readLetters(TracedText &text) {
 }
 
 void cleanEntry(TracedText &entry) {
-    const auto holdsOther = [&entry](std::string_view than) {
-        return entry.text().find_first_not_of(than) != std::string_view::npos;
-    };
-    if (holdsOther("|"))
-        entry.replaceFirst("|", "");
-    emptyIfBlank(entry);
-    if (holdsOther(" *"))
-        entry.replaceFirst("[^ *]", "");
-    emptyIfBlank(entry);
-    if (holdsOther(" *"))
-        entry.replaceFirst("|", "");
-    emptyIfBlank(entry);
+    RegEx captionRegEx{"[^|]"};
+    pass(entry, captionRegEx, "|");
+    captionRegEx.SearchPattern = "[^ *]";
+    pass(entry, captionRegEx, captionRegEx.SearchPattern);
+    pass(entry, captionRegEx, "|");
 }
 
 void cleanTranscript(TracedText &text) {

@@ -1,73 +1,13 @@
 #include "tests/support/plain_modes.h"
 
-#include "decode/timecode.h"
-#include "explain/walk/plain_walk.h"
-#include "framework/text/text.h"
 #include "framework/windows/guard.h"
-#include "tests/support/plain_walk.h"
+#include "tests/support/plain_road.h"
 #include "tests/support/scenario.h"
 #include "transcript/clean_up.h"
-
-#include <cctype>
 
 namespace norvane {
 
 namespace {
-
-/// The modes as they are told, on plain texts: no tables made ahead, no memory shared.
-struct PlainRoad {
-    bool unbuffered = false;
-    bool timecodeForm = false;
-    bool paragraphForm = false;
-    Lines captions{};
-    Lines timecodes{};
-
-    /// False when a line is refused.
-    bool decode(std::string text) {
-        const auto digit = [](char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; };
-        text = ReplaceAllB(ReplaceAllB(text, "\r\n", "\n"), "\r", "\n");
-        std::size_t kept = 0;
-        const TextArray lines = Split(text, "\n");
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            const std::string line(lines[i]);
-            if (line.empty() || ++kept == 1)
-                continue;
-            const TextArray fields = Split(line, "\t");
-            bool found = false;
-            for (std::size_t at = 2; at < line.size(); ++at)
-                found = found || (digit(line[at - 2]) && digit(line[at - 1]) && line[at] == ':');
-            if (!found || fields.size() < 2)
-                return false;
-            std::string timecode(fields[0]);
-            if (unbuffered) {
-                timecode = plain::returnTimecode(
-                    Val(timecodeToSecondsSCC(ReplaceAll(timecode, ";", ":"))) +
-                    static_cast<double>(Len(fields[1])) / 5.0 / 30.0);
-            }
-            timecodes.push_back(timecode);
-            captions.push_back(plain::caption(fields[1]));
-        }
-        return true;
-    }
-
-    std::string transcript(const std::string &name) {
-        std::string body;
-        for (std::string &caption : captions) {
-            TracedText entry(caption);
-            plain::cleanEntry(entry);
-            caption = entry.text();
-        }
-        for (std::size_t i = 0; i < captions.size(); ++i) {
-            if (i == timecodes.size())
-                throw OutOfBoundsException("");
-            timecodes[i] = Replace(timecodes[i], ",", ".");
-            body += timecodeForm    ? "[" + timecodes[i] + "]\t" + captions[i] + "\n\n"
-                    : paragraphForm ? " " + captions[i]
-                                    : captions[i] + "\n";
-        }
-        return "Transcripts of " + name + "\n\n" + plain::cleanTranscript(body) + "\n";
-    }
-};
 
 Lines textsOf(const TextArray &array) {
     Lines texts;
@@ -94,7 +34,7 @@ std::string differenceOfModes(std::string_view bytes) {
     static const TemporaryFolder folder;
     HeadlessDesktop desktop;
     Window1 window;
-    PlainRoad road{(options & 1U) != 0, (options & 2U) != 0, (options & 4U) != 0};
+    plain::Road road{(options & 1U) != 0, (options & 2U) != 0, (options & 4U) != 0};
     for (CheckBox *box : {&window.ParagraphBox, &window.TimecodeBox})
         box->Value.changed = nullptr; // any states, also those out of reach
     window.RadioButton1.Value = road.unbuffered;
@@ -114,7 +54,7 @@ std::string differenceOfModes(std::string_view bytes) {
         folder.write("in/b.scc", part);
 
         Lines wanted;
-        road.captions.clear();
+        road.captionArray2.clear();
         bool told = mode == 2;
         try {
             for (const auto &[name, text] : {std::pair("a.scc", whole), {"b.scc", part}}) {
@@ -125,8 +65,8 @@ std::string differenceOfModes(std::string_view bytes) {
                 const std::string transcript = road.transcript(oneFile ? "a" : name);
                 if (mode != 1) {
                     wanted.push_back(transcript);
-                    road.captions.clear();
-                    road.timecodes.clear();
+                    road.captionArray2.clear();
+                    road.timeCodeArray.clear();
                 }
                 if (oneFile)
                     break;
@@ -159,7 +99,7 @@ std::string differenceOfModes(std::string_view bytes) {
         const bool saw = std::any_of(log.begin(), log.end(), [](const std::string &line) {
             return line.starts_with("message");
         });
-        const std::tuple expected{wanted, road.captions, road.timecodes, told};
+        const std::tuple expected{wanted, road.captionArray2, road.timeCodeArray, told};
         const std::tuple found{got, textsOf(window.captionArray2), textsOf(window.timeCodeArray),
                                saw};
         if (expected != found)

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+/// A pattern that texts are searched for: case is ignored, and a match may stand anywhere. For
+/// texts of any kind, UTF-8 or not; nothing is thrown.
+struct RegEx {
+    /// Well formed, of these: "." for any character, "\d" for an ASCII digit, "[^...]" for any
+    /// character but those, "\" before a character for that character, and others for themselves.
+    /// Nothing repeats.
+    std::string SearchPattern;
+
+    /// Whether `text` holds a match.
+    bool Search(std::string_view text) const;
+};
+
+} // namespace norvane

@@ -110,6 +110,9 @@ struct Mode {
     bool (*isDone)(const Day &);
     bool (*isUnbegun)(const Day &); // and nobody has to be told
 };
+void PrintTo(const Mode &mode, std::ostream *out) {
+    *out << mode.name;
+}
 
 const Mode kModes[] = {
     {"OneFile", [](Day &day) { day.click(Window1::the().BevelButton1); },

@@ -33,29 +33,17 @@ TEST(Text, NamesInMessages) {
 
 TEST(Text, ValReadsTheLeadingNumber) {
     const double infinite = std::numeric_limits<double>::infinity();
-    const struct {
-        const char *text;
-        double value;
-    } rows[] = {{"5.", 5},
-                {".5", 0.5},
-                {"1e", 1},
-                {"-3", -3},
-                {"+3", 3},
-                {"12ab", 12},
-                {"1.5.7", 1.5},
-                {"1,5", 1},
-                {"2e3x", 2000},
-                {"1e400", infinite},
-                {"-1e400", -infinite},
-                {"59.96667", 59.96667},
-                {"1e-05", 1e-5},
-                {"123456789012345", 123456789012345.0},
-                {"0.1234567890123456789", 0.1234567890123456789},
-                {"1e99999999999999999999", infinite}};
-    for (const auto &row : rows) {
-        EXPECT_EQ(Val(row.text), row.value) << row.text;
-        const bool isSigned = row.text[0] == '-' || row.text[0] == '+';
-        EXPECT_EQ(c_locale::leadingNumber(row.text + isSigned), std::abs(row.value)) << row.text;
+    // clang-format off
+    const std::pair<const char *, double> rows[] = {
+        {"5.", 5}, {".5", 0.5}, {"1e", 1}, {"-3", -3}, {"+3", 3}, {"12ab", 12}, {"1.5.7", 1.5},
+        {"1,5", 1}, {"2e3x", 2000}, {"1e400", infinite}, {"-1e400", -infinite},
+        {"59.96667", 59.96667}, {"1e-05", 1e-5}, {"123456789012345", 123456789012345.0},
+        {"0.1234567890123456789", 0.1234567890123456789}, {"1e99999999999999999999", infinite}};
+    // clang-format on
+    for (const auto &[text, value] : rows) {
+        EXPECT_EQ(Val(text), value) << text;
+        const bool isSigned = text[0] == '-' || text[0] == '+';
+        EXPECT_EQ(c_locale::leadingNumber(text + isSigned), std::abs(value)) << text;
     }
     EXPECT_EQ(c_locale::leadingNumber("0x10"), 0);
     for (const char *zero : {"", "abc", " 5", "inf", "nan", "0x10", "-", ".", "1e-400", "0-0.01",
@@ -68,26 +56,16 @@ TEST(Text, ValReadsTheLeadingNumber) {
 }
 
 TEST(Text, StrHasSevenSignificantDigits) {
-    const struct {
-        double value;
-        const char *text;
-    } rows[] = {{0, "0"},
-                {60, "60"},
-                {3723.5, "3723.5"},
-                {59.0 + 29.0 / 30, "59.96667"},
-                {36000 + 1.0 / 30, "36000.03"},
-                {3599.9999 / 60, "60"},
-                {9999999, "9999999"},
-                {9999999.5, "1e+07"},
-                {12345678, "1.234568e+07"},
-                {0.0001, "0.0001"},
-                {0.00001, "1e-05"},
-                {-0.01, "-0.01"},
-                {1e300, "1e+300"},
-                {std::numeric_limits<double>::infinity(), "inf"}};
-    for (const auto &row : rows) {
-        EXPECT_EQ(Str(row.value), row.text);
-        EXPECT_EQ(c_locale::general(row.value, 7), row.text);
+    // clang-format off
+    const std::pair<double, const char *> rows[] = {
+        {0, "0"}, {60, "60"}, {3723.5, "3723.5"}, {59.0 + 29.0 / 30, "59.96667"},
+        {36000 + 1.0 / 30, "36000.03"}, {3599.9999 / 60, "60"}, {9999999, "9999999"},
+        {9999999.5, "1e+07"}, {12345678, "1.234568e+07"}, {0.0001, "0.0001"}, {0.00001, "1e-05"},
+        {-0.01, "-0.01"}, {1e300, "1e+300"}, {std::numeric_limits<double>::infinity(), "inf"}};
+    // clang-format on
+    for (const auto &[value, text] : rows) {
+        EXPECT_EQ(Str(value), text);
+        EXPECT_EQ(c_locale::general(value, 7), text);
     }
 }
 

@@ -21,21 +21,18 @@ TEST(Timecode, ToSeconds) {
 }
 
 TEST(Timecode, OfSeconds) {
-    const struct {
-        double seconds;
-        const char *timecode;
-    } rows[] = {
-        {0, "00:00:00.00"},         {1 + 49 / 150.0, "00:00:01.33"},
-        {3723.5, "01:02:03.50"},    {60, "00:01:00.00"},
-        {600, "00:10:00.00"},       {3600, "01:00:00.00"},
-        {36000, "10:00:00.00"},     {360000, "100:00:00.00"},
-        {59.996, "00:00:60.00"},    // the minute stays
-        {3599.9999, "01:00:00.00"}, // the quotient is rounded up, the negative rest is nothing
-        {86399.99, "24:00:00.00"},  // three decimals of the quotient are left
-        {-1, "00:00:00.00"},        {-0.001, "00:00:00.00"},
-        {0.00001, "00:00:00.00"}};
-    for (const auto &row : rows)
-        EXPECT_EQ(returnTimecode(row.seconds), row.timecode) << row.seconds;
+    // The minute of 59.996 stays; a quotient that rounds up is a minute, with no rest; of an
+    // exponent form, the first digit counts.
+    // clang-format off
+    const std::pair<double, const char *> rows[] = {
+        {0, "00:00:00.00"}, {1 + 49 / 150.0, "00:00:01.33"}, {3723.5, "01:02:03.50"},
+        {60, "00:01:00.00"}, {600, "00:10:00.00"}, {3600, "01:00:00.00"}, {36000, "10:00:00.00"},
+        {360000, "100:00:00.00"}, {59.996, "00:00:60.00"}, {3599.9999, "01:00:00.00"},
+        {86399.99, "24:00:00.00"}, {-1, "00:00:00.00"}, {-0.001, "00:00:00.00"},
+        {0.00001, "00:00:00.00"}, {6.1e8, "00:01:609999900.00"}};
+    // clang-format on
+    for (const auto &[seconds, timecode] : rows)
+        EXPECT_EQ(returnTimecode(seconds), timecode) << seconds;
 }
 
 // The steps on texts for each frame of a day, with as many hex texts of up to 300 words as

@@ -22,46 +22,30 @@ TextArray arrayOf(const std::vector<std::string> &texts) {
 }
 
 TEST(CleanUp, OfEntries) {
-    const std::vector<std::pair<std::string, std::string>> rows = {
-        {"|", ""}, // only the last pass takes a bar alone
-        {"||", "|"},
-        {"|| ", ""},
-        {"| ", ""}, // one blank is emptied at once
-        {"*|", "*"},
-        {" ", ""},
-        {"  ", "  "},                // two are not
-        {"a|b|c|d", "abc|d"},        // at most two bars, the first ones
-        {"x[^ *]y[^ *]", "xy[^ *]"}, // the five characters as they are, once
-        {"[^ *]", ""},
-        {"* |", "* "},
-        {"", ""},
+    // Only the last pass takes a bar alone; at most two go; two blanks stay; "[^ *]" goes once, as
+    // text.
+    // clang-format off
+    const std::pair<std::string, const char *> rows[] = {
+        {"|", ""}, {"||", "|"}, {"|| ", ""}, {"| ", ""}, {"*|", "*"}, {" ", ""}, {"  ", "  "},
+        {"a|b|c|d", "abc|d"}, {"x[^ *]y[^ *]", "xy[^ *]"}, {"[^ *]", ""}, {"* |", "* "}, {"", ""},
         {"  Hi|!  ", "  Hi!  "}};
-    TextArray entries;
-    for (const auto &row : rows)
-        entries.Append(row.first);
-    cleanEntries(entries);
-    ASSERT_EQ(entries.size(), rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        EXPECT_EQ(entries[i], rows[i].second) << rows[i].first;
+    // clang-format on
+    for (auto [entry, clean] : rows) {
+        cleanEntry(entry);
+        EXPECT_EQ(entry, clean);
+    }
 }
 
 TEST(CleanUp, OfTheTranscript) {
-    const std::vector<std::pair<std::string, std::string>> rows = {
-        {"å-", "å"},
-        {"å--", "å-"},
-        {"à--", "à"}, // its row stands twice
-        {"à---", "à-"},
-        {"Å-å-é-’-", "Ååé-’"},
-        {"--", "--"},
-        {"a|||b", "a b"},
-        {"a" + std::string(8, ' ') + "b", "a b"},
-        {"a" + std::string(9, ' ') + "b", "a  b"},
-        {"a" + std::string(17, ' ') + "b", "a   b"},
-        {"]\t b", "]\t b"},
-        {"]\\t b]\\T b", "]\\tb]\\tb"},
-        {"]\\t  |b", "]\\t b"},
-        {"\xC3-\xA5-\x80\x99-", "\xC3-\xA5-\x80\x99-"}, // parts of characters are none
-    };
+    // The row of "à-" stands twice; parts of characters are none.
+    // clang-format off
+    const std::pair<std::string, const char *> rows[] = {
+        {"å-", "å"}, {"å--", "å-"}, {"à--", "à"}, {"à---", "à-"}, {"Å-å-é-’-", "Ååé-’"},
+        {"--", "--"}, {"a|||b", "a b"}, {"a" + std::string(8, ' ') + "b", "a b"},
+        {"a" + std::string(9, ' ') + "b", "a  b"}, {"a" + std::string(17, ' ') + "b", "a   b"},
+        {"]\t b", "]\t b"}, {"]\\t b]\\T b", "]\\tb]\\tb"}, {"]\\t  |b", "]\\t b"},
+        {"\xC3-\xA5-\x80\x99-", "\xC3-\xA5-\x80\x99-"}};
+    // clang-format on
     for (const auto &row : rows) {
         EXPECT_EQ(cleaned(row.first), row.second) << row.first;
         EXPECT_EQ(plain::cleanTranscript(row.first), row.second) << row.first;

@@ -66,11 +66,12 @@ void CaptionDecoder::eraseDisplayed(const Moment &moment) {
 
 void CaptionDecoder::eraseLoaded(const Moment *moment) {
     ScreenMemory &memory = loaded();
-    if (memory.freshRows() != 0) {
+    const RowSet rows = memory.freshRows() & memory.readableRows();
+    if (rows != 0) {
         Caption caption;
         caption.service = service_;
         for (int row = 0; row < kScreenRows; ++row) {
-            if ((memory.freshRows() >> row & 1U) != 0)
+            if ((rows >> row & 1U) != 0)
                 caption.rows.push_back(memory.rowOf(row));
         }
         if (moment != nullptr)

@@ -76,6 +76,7 @@ void CaptionDecoder::takeEditing(std::uint16_t code, const Moment &moment) {
         break;
     case code::kDer:
         erase(~before(column_), moment);
+        isFull_ = false;
         break;
     case code::kFon:
         style_ = styleHere();

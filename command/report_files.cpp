@@ -13,8 +13,77 @@ namespace norvane {
 
 namespace {
 
-void print(const std::string &text) {
-    disk::writeAll(STDOUT_FILENO, text, "standard output");
+/// Prints reports in large blocks.
+template <class Report>
+class Printer {
+  public:
+    Report &report() { return report_; }
+    void printMuch() {
+        constexpr std::size_t kMuch = std::size_t{1} << 16U;
+        if (report_.bytes().size() >= kMuch)
+            print();
+    }
+    void print() {
+        disk::writeAll(STDOUT_FILENO, report_.bytes(), "standard output");
+        report_.clear();
+    }
+
+  private:
+    Report report_;
+};
+
+/// Ends a report where another is to follow.
+void part(TextReport &report, bool isFirst) {
+    if (!isFirst)
+        report.endLine();
+}
+void part(JsonWriter & /*json*/, bool /*isFirst*/) {}
+
+template <class Report>
+void explainWith(const Place &place, const Options &options) {
+    Input input(place.path);
+    const std::string_view text = input.all();
+    const std::string shown = shownName(place.path);
+    FindingKinds ofFile = options.kinds;
+    ofFile.reset(static_cast<std::size_t>(FindingKind::digits)); // they are the line's own
+    ofFile.reset(static_cast<std::size_t>(FindingKind::altered));
+    const std::vector<Finding> findings = check(text, ofFile);
+    Explainer explainer(options.clock, findings);
+    Printer<Report> printer;
+    bool isFirst = true;
+    const auto isWanted = [&](std::size_t line) {
+        if (place.line != 0 && place.line != line)
+            return false;
+        part(printer.report(), isFirst);
+        isFirst = false;
+        return true;
+    };
+    SccReader reader(text);
+    if (isWanted(reader.headerNumber()))
+        addHeader(printer.report(), shown, reader.headerNumber(), reader.header(),
+                  explainer.adviceOnHeader(reader.headerNumber()));
+    while (const SccLine *line = reader.next()) {
+        if (isWanted(line->number))
+            add(printer.report(), shown, explainer.explain(*line));
+        printer.printMuch();
+    }
+    if (isFirst)
+        throw Problem{"there is no such line, or nothing stands in it.", "", place.line};
+    printer.print();
+}
+
+template <class Report>
+bool checkWith(const std::string &path, const Options &options) {
+    Input input(path);
+    const std::string shown = shownName(path);
+    const std::vector<Finding> findings = check(input.all(), options.kinds);
+    Printer<Report> printer;
+    for (const Finding &finding : findings) {
+        add(printer.report(), shown, finding);
+        printer.printMuch();
+    }
+    printer.print();
+    return findings.empty();
 }
 
 } // namespace
@@ -31,42 +100,15 @@ Place placeOf(const std::string &argument) {
 }
 
 void explainFile(const Place &place, const Options &options) {
-    Input input(place.path);
-    const std::string_view text = input.all();
-    const std::string shown = shownName(place.path);
-    FindingKinds ofFile = options.kinds;
-    ofFile.reset(static_cast<std::size_t>(FindingKind::digits)); // they are the line's own
-    ofFile.reset(static_cast<std::size_t>(FindingKind::altered));
-    const std::vector<Finding> findings = check(text, ofFile);
-    bool isFirst = true;
-    const auto tellOf = [&](const Explanation &explanation) {
-        if (options.json)
-            print(jsonOf(explanation, shown));
-        else
-            print((isFirst ? "" : "\n") + reportOf(explanation, shown));
-        isFirst = false;
-    };
-    const auto isWanted = [&place](std::size_t line) {
-        return place.line == 0 || place.line == line;
-    };
-    SccReader reader(text);
-    if (isWanted(reader.headerNumber()))
-        tellOf(explainHeader(reader.header(), reader.headerNumber(), findings));
-    while (const SccLine *line = reader.next()) {
-        if (isWanted(line->number))
-            tellOf(explain(*line, options.clock, findings));
-    }
-    if (isFirst)
-        throw Problem{"there is no such line, or nothing stands in it.", "", place.line};
+    if (options.json)
+        explainWith<JsonWriter>(place, options);
+    else
+        explainWith<TextReport>(place, options);
 }
 
 bool checkFile(const std::string &path, const Options &options) {
-    Input input(path);
-    const std::string shown = shownName(path);
-    const std::vector<Finding> findings = check(input.all(), options.kinds);
-    for (const Finding &finding : findings)
-        print(options.json ? jsonOf(finding, shown) : reportOf(finding, shown));
-    return findings.empty();
+    return options.json ? checkWith<JsonWriter>(path, options)
+                        : checkWith<TextReport>(path, options);
 }
 
 } // namespace norvane

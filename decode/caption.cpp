@@ -18,9 +18,7 @@ std::string letters(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     while (text.size() >= 2) {
-        const int byte = hexDigitValue(text[0]) * 16 | hexDigitValue(text[1]);
-        std::string_view letter =
-            byte >= 0 ? letterOf(static_cast<unsigned char>(byte)) : std::string_view();
+        std::string_view letter = letterOfPair(text);
         std::size_t pair = 2;
         if (letter.empty()) {
             pair = characterSize(text);

@@ -194,7 +194,9 @@ inline constexpr std::array<TableRow, kChainRows> replacementChain = [] {
 }();
 
 static_assert(replacementChain[kBlanksRow - 1].key == " ");
-static_assert(replacementChain[kFillerRow - 1].key == "80");
+inline constexpr unsigned kFillerByte = 0x80;
+inline constexpr std::string_view kFillerKey = "80";
+static_assert(replacementChain[kFillerRow - 1].key == kFillerKey);
 static_assert(replacementChain[kMarksRow - 1].key == "****");
 
 } // namespace norvane

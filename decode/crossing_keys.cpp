@@ -26,7 +26,7 @@ struct Beginning {
 /// Whether digits are a key of a row behind the deletion of the blanks.
 constexpr bool isKey(const Beginning &digits) {
     if (digits.digits == 2)
-        return digits.value == 0x80;
+        return digits.value == kFillerByte;
     std::size_t row = digits.digits == 4 ? kRowsOfCode.first[digits.value] : 0;
     while (row != 0 && row < kBlanksRow)
         row = kRowsOfCode.next[row];

@@ -48,4 +48,13 @@ constexpr std::string_view letterOf(unsigned char byte) {
     return row == 0 ? std::string_view() : kLetters.at(row - 1).with;
 }
 
+/// The letter of the two hex digits that a text begins with; empty when it begins with others, or
+/// no row knows them.
+constexpr std::string_view letterOfPair(std::string_view text) {
+    if (text.size() < 2)
+        return {};
+    const int byte = hexDigitValue(text[0]) * 16 | hexDigitValue(text[1]);
+    return byte < 0 ? std::string_view() : letterOf(static_cast<unsigned char>(byte));
+}
+
 } // namespace norvane

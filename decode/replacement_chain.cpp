@@ -11,7 +11,35 @@ namespace norvane {
 
 namespace {
 
-/// The first row behind `row` whose key is in `text`; one beyond the last when there is none.
+/// Rows 2 to 480 in one go, where the text is words parted by blanks, since a key of these rows can
+/// then only be a whole word; nothing for other text.
+std::optional<std::string> replaceWholeWords(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        if (text[0] == ' ') {
+            text.remove_prefix(1);
+            continue;
+        }
+        const std::string_view word = text.substr(0, std::min<std::size_t>(text.find(' '), 5));
+        if (!isCodeWord(word))
+            return {};
+        text.remove_prefix(word.size());
+        const std::size_t row = kRowsOfCode.first[codeOf(word)];
+        if (row == 0 || row > kBlanksRow) {
+            result += word;
+            continue;
+        }
+        for (const char c : replacementChain[row - 1].with) {
+            if (c != ' ')
+                result += c;
+        }
+    }
+    return result;
+}
+
+} // namespace
+
 std::size_t nextRow(std::string_view text, std::size_t row) {
     std::size_t next = kLastWalkedRow + 1;
     const auto consider = [row, &next](std::size_t other) {
@@ -44,35 +72,6 @@ std::size_t nextRow(std::string_view text, std::size_t row) {
     }
     return next;
 }
-
-/// Rows 2 to 480 in one go, where the text is words parted by blanks, since a key of these rows can
-/// then only be a whole word; nothing for other text.
-std::optional<std::string> replaceWholeWords(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    while (!text.empty()) {
-        if (text[0] == ' ') {
-            text.remove_prefix(1);
-            continue;
-        }
-        const std::string_view word = text.substr(0, std::min<std::size_t>(text.find(' '), 5));
-        if (!isCodeWord(word))
-            return {};
-        text.remove_prefix(word.size());
-        const std::size_t row = kRowsOfCode.first[codeOf(word)];
-        if (row == 0 || row > kBlanksRow) {
-            result += word;
-            continue;
-        }
-        for (const char c : replacementChain[row - 1].with) {
-            if (c != ' ')
-                result += c;
-        }
-    }
-    return result;
-}
-
-} // namespace
 
 // A row whose key does not occur does nothing, so the rows whose keys occur are all there is to
 // run. A row may bring about keys of rows behind it, by what it joins or puts in.

@@ -149,7 +149,6 @@ constexpr std::array<Piece, 256> kLetterOf = [] {
     return letters;
 }();
 
-constexpr unsigned kFillerByte = 0x80;
 constexpr unsigned kIsByte = 0x100;       // beside a byte's value: there is one
 constexpr unsigned kIsOnlyLetter = 0x200; // it has a letter, and no code word begins with it
 
@@ -261,8 +260,9 @@ class WordWriter {
 };
 
 /// Writes the caption of `hexText` at `out`, which has room for as many bytes; gives its end, or
-/// nullptr when the words cannot be taken one by one.
-char *putWords(char *out, std::string_view hexText) {
+/// nullptr when the words cannot be taken one by one. `see` is told the end of each word's piece.
+template <class See>
+char *putWords(char *out, std::string_view hexText, See see) {
     constexpr std::size_t kWordAndBlank = 5;
     WordWriter writer(out);
     const char *next = hexText.data();
@@ -270,24 +270,40 @@ char *putWords(char *out, std::string_view hexText) {
     for (; next != last; next += kWordAndBlank) {
         if (next[kWordAndBlank - 1] != ' ' || !writer.take(next))
             return nullptr;
+        see(writer.end());
     }
     const std::size_t rest = hexText.size() % kWordAndBlank;
     if (rest != 0 && (rest != kWordAndBlank - 1 || !writer.take(next)))
         return nullptr;
+    if (rest != 0)
+        see(writer.end());
     return writer.end();
+}
+
+template <class See>
+bool appendWords(std::string &captions, std::string_view hexText, See see) {
+    const std::size_t start = captions.size();
+    captions.resize(start + hexText.size() + kRoomBeyond);
+    char *const out = captions.data() + start;
+    char *end = putWords(out, hexText, see);
+    if (end == out) // all deleted
+        end = std::fill_n(out, 2, ' ');
+    captions.resize(end == nullptr ? start : static_cast<std::size_t>(end - captions.data()));
+    return end != nullptr;
 }
 
 } // namespace
 
 bool appendCaptionByWords(std::string &captions, std::string_view hexText) {
-    const std::size_t start = captions.size();
-    captions.resize(start + hexText.size() + kRoomBeyond);
-    char *const out = captions.data() + start;
-    char *end = putWords(out, hexText);
-    if (end == out) // all deleted
-        end = std::fill_n(out, 2, ' ');
-    captions.resize(end == nullptr ? start : static_cast<std::size_t>(end - captions.data()));
-    return end != nullptr;
+    return appendWords(captions, hexText, [](const char *) {});
+}
+
+bool appendCaptionByWords(std::string &captions, std::string_view hexText,
+                          std::vector<std::size_t> &ends) {
+    ends.clear();
+    return appendWords(captions, hexText, [&](const char *end) {
+        ends.push_back(static_cast<std::size_t>(end - captions.data()));
+    });
 }
 
 } // namespace norvane

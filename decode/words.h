@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvane {
 
@@ -9,5 +10,9 @@ namespace norvane {
 /// by blanks, none of which the chain makes match with its neighbours, so that each gives its piece
 /// of the caption by itself. Of any other text it appends nothing and gives false.
 bool appendCaptionByWords(std::string &captions, std::string_view hexText);
+
+/// The same; `ends` then has for each word how long the captions are up to the end of its piece.
+bool appendCaptionByWords(std::string &captions, std::string_view hexText,
+                          std::vector<std::size_t> &ends);
 
 } // namespace norvane

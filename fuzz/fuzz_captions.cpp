@@ -35,17 +35,22 @@ void compare(std::string_view hexText) {
 /// Any bytes as a file: each line's explanation has the line's entry, and all of it can be told.
 void explainAll(const std::string &text) {
     using namespace norvane;
-    std::string told;
+    TextReport told;
+    JsonWriter json;
     FindingKinds kinds = FindingKinds().set();
     kinds.reset(static_cast<std::size_t>(FindingKind::digits)); // explain looks for these two
     kinds.reset(static_cast<std::size_t>(FindingKind::altered));
     const std::vector<Finding> findings = check(text, kinds);
-    for (const Finding &finding : findings)
-        told += reportOf(finding, "") + jsonOf(finding, "");
+    for (const Finding &finding : findings) {
+        add(told, "", finding);
+        add(json, "", finding);
+    }
+    Explainer explainer(Clock::scc, findings);
     SccReader reader(text);
     while (const SccLine *line = reader.next()) {
-        const Explanation explanation = explain(*line, Clock::scc, findings);
-        told += reportOf(explanation, "") + jsonOf(explanation, "");
+        const Explanation &explanation = explainer.explain(*line);
+        add(told, "", explanation);
+        add(json, "", explanation);
         if (line->refusal)
             continue;
         const std::string entry = captionOrFailure([&] {
@@ -54,7 +59,7 @@ void explainAll(const std::string &text) {
             appendEntry(line->data, Clock::scc, timecodes, captions);
             return composeTranscript(Form::line, captions, timecodes);
         });
-        if (entry != (explanation.entry ? *explanation.entry + "\n" : "no pair"))
+        if (entry != (explanation.entry ? std::string(*explanation.entry) + "\n" : "no pair"))
             std::abort();
     }
 }

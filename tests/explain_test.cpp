@@ -1,4 +1,5 @@
-#include "explain/reports/explanation.h"
+#include "explain/checks/check.h"
+#include "explain/reports/report.h"
 #include "explain/standard/timecode_frames.h"
 #include "framework/text/text.h"
 #include "tests/support/generated.h"
@@ -28,7 +29,49 @@ TEST(Explain, HasTheEntryOfTheTranscriptOnGeneratedText) {
             entry = body.substr(0, body.size() - EndOfLine.size());
         } catch (const OutOfBoundsException &) {
         }
-        ASSERT_EQ(explain(*read, Clock::scc, {}).entry, entry) << text;
+        ASSERT_EQ(Explainer(Clock::scc, {}).explain(*read).entry, entry) << text;
+    }
+}
+
+/// All that can be told of a file.
+template <class Report>
+std::string_view told(Report &report, std::string_view file, const std::string &text) {
+    const std::vector<Finding> findings = check(text, FindingKinds().set());
+    for (const Finding &finding : findings)
+        add(report, file, finding);
+    Explainer explainer(Clock::unbuffered, findings);
+    SccReader reader(text);
+    addHeader(report, file, reader.headerNumber(), reader.header(),
+              explainer.adviceOnHeader(reader.headerNumber()));
+    while (const SccLine *line = reader.next())
+        add(report, file, explainer.explain(*line));
+    return report.bytes();
+}
+
+// What a terminal or a page would obey goes through every field of every report.
+TEST(Explain, TellsHostileTextHarmlessly) {
+    std::vector<std::string> hostile = {"\u0085", "\u009B", "\u061C", "\u200E", "\u200F", "\u2028",
+                                        "\u2029", "\u202A", "\u202E", "\u2066", "\u2069"};
+    for (int byte = 0; byte < 0xA0; byte = byte == 0x1F ? 0x7F : byte + 1)
+        hostile.emplace_back(1, static_cast<char>(byte));
+    for (const std::string &bad : hostile) {
+        std::string text = "H\n1:00\nno tab\n";
+        for (const char *line :
+             {"00:01!:00\tc1c2", "00:00:01:00\t!", "00:00:01:00\t!c1c2\tx!", "!1:00",
+              "00:00:01:00\tc1c2 9120 !9429 !! 1320!", "00:00:01:00\tx!"})
+            text.append(ReplaceAll(line, "!", bad)).append("\n");
+        for (const std::string &film : {"H" + bad + "\n" + text, bad + text}) {
+            TextReport report;
+            JsonWriter json;
+            const std::string file = "a" + bad;
+            for (std::string_view lines : {told(report, file, film), told(json, file, film)}) {
+                EXPECT_GT(lines.size(), film.size());
+                for (; !lines.empty(); lines.remove_prefix(characterSize(lines))) {
+                    const std::string_view character = lines.substr(0, characterSize(lines));
+                    ASSERT_TRUE(character == "\n" || character != bad) << lines;
+                }
+            }
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include "explain/checks/check_timecodes.h"
 #include "explain/checks/refusal_help.h"
 #include "explain/standard/scc_header.h"
+#include "explain/walk/entry_remarks.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace norvane {
 namespace {
 
 /// What the transcript leaves out of a line without a word, or why it cannot have the line.
-void lookAtEntry(const SccLine &line, Findings &findings) {
+void lookAtEntry(const SccLine &line, const LineWalk &walk, Findings &findings) {
     constexpr std::size_t kFirstTab = 1;
     const std::size_t read = line.data.timecode.size() + kFirstTab + line.data.hexText.size();
     if (read < line.text.size()) {
@@ -23,11 +24,26 @@ void lookAtEntry(const SccLine &line, Findings &findings) {
                          startInQuotes(line.text.substr(read + 1)) +
                          ", is not read: put a blank in the place of that tab.");
     }
-    try {
+    if (walk.entry())
+        return;
+    try { // the decode knows the reason
         std::string caption;
         appendCaption(caption, line.data.hexText);
     } catch (const OutOfBoundsException &failure) {
         findings.add(line.number, FindingKind::word, noEntry(failure, line.data, Clock::scc));
+    }
+}
+
+/// Where the transcript of a line is not what its words say, though they are sound: digits that
+/// stay, and words that the chain alters.
+void lookAtRemarks(const SccLine &line, const LineWalk &walk, Findings &findings) {
+    std::vector<EntryRemark> remarks;
+    remarkOn(line, walk, false, remarks);
+    for (EntryRemark &remark : remarks) {
+        findings.add(line.number,
+                     remark.kind == EntryRemark::Kind::digits ? FindingKind::digits
+                                                              : FindingKind::altered,
+                     std::move(remark.text));
     }
 }
 
@@ -60,6 +76,7 @@ std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
     TimecodeCheck timecodes;
     CodeCheck codes(text);
     ColumnCheck columns;
+    LineWalk walk;
     while (const SccLine *line = reader.next()) {
         if (line->refusal) {
             findings.add(line->number,
@@ -71,9 +88,10 @@ std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
         timecodes.look(*line, findings);
         codes.look(*line, findings);
         columns.look(*line, findings);
-        lookAtEntry(*line, findings);
+        walk.walk(*line);
+        lookAtEntry(*line, walk, findings);
         if (findings.wants(FindingKind::digits) || findings.wants(FindingKind::altered))
-            checkEntry(*line, LineWalk(*line), findings);
+            lookAtRemarks(*line, walk, findings);
     }
     codes.tellSingles(findings);
     std::vector<Finding> list = findings.list();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "explain/standard/short_list.h"
+
 #include <array>
 #include <bitset>
 #include <cstddef>
@@ -65,26 +67,5 @@ class Findings {
     FindingKinds wanted_;
     std::vector<Finding> list_;
 };
-
-/// Words for the user, of which there may be many: the first four, and how many more there are.
-class ShortList {
-  public:
-    void add(std::string word);
-    void dropLast();
-    void clear() { *this = ShortList(); }
-    bool empty() const { return count_ == 0; }
-    std::size_t count() const { return count_; }
-
-    /// Parted by commas.
-    std::string text() const;
-
-  private:
-    static constexpr std::size_t kMost = 4;
-    std::vector<std::string> first_;
-    std::size_t count_ = 0;
-};
-
-/// "1 word", "2 words".
-std::string counted(long number, std::string_view noun);
 
 } // namespace norvane

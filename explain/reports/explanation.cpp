@@ -1,9 +1,8 @@
 #include "explain/reports/explanation.h"
 
-#include "explain/checks/check.h"
+#include "decode/caption.h"
 #include "explain/checks/refusal_help.h"
-#include "explain/reports/advice.h"
-#include "framework/text/text.h"
+#include "transcript/layout.h"
 
 #include <algorithm>
 
@@ -23,18 +22,6 @@ std::size_t timesSent(const std::vector<SccWord> &words, std::size_t first) {
     return end - first;
 }
 
-std::vector<ExplainedWord> explainWords(const SccLine &line, const LineWalk &walk) {
-    std::vector<ExplainedWord> rows;
-    for (std::size_t i = 0; i < line.words.size(); i += rows.back().times) {
-        const SccWord &word = line.words[i];
-        const std::size_t times = timesSent(line.words, i);
-        rows.push_back({i, word.digits, times, word.service,
-                        word.isCode ? word.meaning->name : std::string_view("not four hex digits"),
-                        word.isCode && !word.parity, walk.fateOf(i, times)});
-    }
-    return rows;
-}
-
 /// A pop-on caption shows at its end; all others show as they are sent.
 std::optional<std::size_t> shownAt(const SccLine &line) {
     for (std::size_t i = 0; i < line.words.size(); ++i) {
@@ -48,90 +35,83 @@ std::optional<std::size_t> shownAt(const SccLine &line) {
     return {};
 }
 
-std::vector<std::string> textsOf(const std::vector<Finding> &findings, std::size_t line) {
+} // namespace
+
+Explainer::Explainer(Clock clock, const std::vector<Finding> &findings)
+    : clock_(clock), findings_(findings) {
+    const auto isOnParity = [](const Finding &one) { return one.kind == FindingKind::parity; };
+    const auto found = std::find_if(findings.begin(), findings.end(), isOnParity);
+    if (found != findings.end())
+        parity_ = &*found;
+}
+
+std::vector<std::string> Explainer::textsOf(std::size_t line) const {
     std::vector<std::string> texts;
-    for (const Finding &finding : findings) {
-        if (finding.line == line)
-            texts.push_back(finding.text);
-    }
+    auto next = std::partition_point(findings_.begin(), findings_.end(),
+                                     [line](const Finding &one) { return one.line < line; });
+    for (; next != findings_.end() && next->line == line; ++next)
+        texts.push_back(next->text);
     return texts;
 }
 
 /// Where most of a file has wrong parity, one line tells it for all.
-void adviseOnParity(Explanation &explanation, const std::vector<Finding> &findings) {
-    const auto isWrong = [](const ExplainedWord &word) { return word.wrongParity; };
-    if (std::none_of(explanation.words.begin(), explanation.words.end(), isWrong))
+void Explainer::adviseOnParity() {
+    const SccLine &line = *explanation_.line;
+    const auto isWrong = [](const SccWord &word) { return word.isCode && !word.parity; };
+    if (parity_ == nullptr || std::none_of(line.words.begin(), line.words.end(), isWrong))
         return;
-    const Finding *told = nullptr;
-    for (const Finding &finding : findings) {
-        if (finding.kind == FindingKind::parity && told == nullptr)
-            told = &finding;
-        if (finding.kind == FindingKind::parity && finding.line == explanation.line.number)
-            return;
-    }
-    if (told != nullptr)
-        explanation.advice.push_back(told->text);
+    const std::vector<std::string> &advice = explanation_.advice;
+    const bool isTold = std::any_of(advice.begin(), advice.end(), [this](const auto &text) {
+        return text == parity_->text || text.starts_with("Wrong parity");
+    });
+    if (!isTold)
+        explanation_.advice.push_back(parity_->text);
 }
 
-} // namespace
-
-Explanation explainHeader(std::string_view header, std::size_t number,
-                          const std::vector<Finding> &findings) {
-    Explanation explanation;
-    explanation.isHeader = true;
-    explanation.line.number = number;
-    explanation.line.text = header;
-    explanation.advice = textsOf(findings, number);
-    return explanation;
-}
-
-Explanation explain(const SccLine &line, Clock clock, const std::vector<Finding> &findings) {
-    Explanation explanation;
-    explanation.line = line;
-    explanation.advice = textsOf(findings, line.number);
-    if (line.refusal) {
-        if (explanation.advice.empty() && !findings.empty())
-            explanation.advice.push_back(findings.front().text); // on a file of another format
-        return explanation;
-    }
-    TextArray timecodes;
-    TextArray captions;
+/// The start time and the text, or why there is none.
+void Explainer::readEntry() {
+    const SccLine &line = *explanation_.line;
+    walk_.walk(line);
+    explanation_.walk = &walk_;
     try {
-        appendEntry(line.data, clock, timecodes, captions);
+        explanation_.start = startTime(line.data, clock_);
+        correctComma(explanation_.start);
+        if (!walk_.entry()) { // the decode knows the reason
+            std::string ignored;
+            appendCaption(ignored, line.data.hexText);
+        }
+        explanation_.entry = walk_.entry();
     } catch (const OutOfBoundsException &failure) {
-        const std::string help = noEntry(failure, line.data, clock);
-        std::vector<std::string> &advice = explanation.advice;
+        std::vector<std::string> &advice = explanation_.advice;
+        const std::string help = noEntry(failure, line.data, clock_);
         if (std::find(advice.begin(), advice.end(), help) == advice.end())
             advice.push_back(help);
     }
-    const LineWalk walk(line);
-    if (!timecodes.empty())
-        explanation.start = Replace(timecodes[0], ",", ".");
-    if (!captions.empty())
-        explanation.entry = walk.entry();
-    explanation.words = explainWords(line, walk);
-    explanation.shownAt = shownAt(line);
-    adviseOnParity(explanation, findings);
-    Findings ofEntry{FindingKinds().set()};
-    checkEntry(line, walk, ofEntry);
-    for (const Finding &finding : ofEntry.list())
-        explanation.advice.push_back(finding.text);
-    adviseOnEntry(line, walk, explanation.advice);
-    return explanation;
 }
 
-std::string became(const WordFate &fate) {
-    std::string text;
-    if (fate.isBlank)
-        text = "blank";
-    else if (!fate.text.empty())
-        text = inQuotes(fate.text);
-    for (const auto &[digits, what] :
-         {std::pair(fate.swallowed, " swallowed"), {printable(fate.kept), " kept"}}) {
-        if (!digits.empty())
-            text += (text.empty() ? "" : ", ") + digits + what;
+const Explanation &Explainer::explain(const SccLine &line) {
+    explanation_.line = &line;
+    explanation_.start.clear();
+    explanation_.entry.reset();
+    explanation_.walk = nullptr;
+    explanation_.shownAt.reset();
+    explanation_.words.clear();
+    explanation_.advice = textsOf(line.number);
+    if (line.refusal) {
+        if (explanation_.advice.empty() && !findings_.empty())
+            explanation_.advice.push_back(findings_.front().text); // on a file of another format
+        return explanation_;
     }
-    return !text.empty() ? text : fate.isShared ? "read with the word before" : "deleted";
+    readEntry();
+    for (std::size_t i = 0; i < line.words.size(); i += explanation_.words.back().times)
+        explanation_.words.push_back({i, timesSent(line.words, i)});
+    explanation_.shownAt = shownAt(line);
+    adviseOnParity();
+    remarks_.clear();
+    remarkOn(line, walk_, true, remarks_);
+    for (EntryRemark &remark : remarks_)
+        explanation_.advice.push_back(std::move(remark.text));
+    return explanation_;
 }
 
 } // namespace norvane

@@ -4,26 +4,97 @@
 
 namespace norvane {
 
-std::string jsonText(std::string_view text) {
-    std::string result = "\"";
-    while (!text.empty()) {
-        const std::size_t size = characterSize(text);
-        const auto first = static_cast<unsigned char>(text[0]);
-        if (size == 1 && first >= 0x80)
-            result += "\uFFFD";
-        else if (first < 0x20)
-            result.append("\\u00").append({kHexDigits[first / 16], kHexDigits[first % 16]});
-        else
-            result.append(first == '"' || first == '\\' ? "\\" : "").append(text.substr(0, size));
-        text.remove_prefix(size);
-    }
-    return result + "\"";
+namespace {
+
+void appendEscape(std::string &bytes, unsigned value) {
+    bytes += "\\u";
+    for (const unsigned shift : {12U, 8U, 4U, 0U})
+        bytes += kHexDigits[value >> shift & 15U];
 }
 
-void JsonObject::addValue(std::string_view name, std::string_view value) {
-    if (!members_.empty())
-        members_ += ",";
-    members_.append(jsonText(name)).append(":").append(value);
+/// Whether a byte is a character that JSON has as it is.
+bool isPlain(char c) {
+    return c >= ' ' && c < 0x7F && c != '"' && c != '\\';
+}
+
+/// Of a character of two or three bytes, or of ASCII.
+unsigned valueOf(std::string_view character) {
+    const auto byte = [character](std::size_t i) {
+        return static_cast<unsigned char>(character[i]) & 0x3FU;
+    };
+    return character.size() == 1   ? static_cast<unsigned char>(character[0])
+           : character.size() == 2 ? (byte(0) & 0x1FU) << 6U | byte(1)
+                                   : (byte(0) & 0x0FU) << 12U | byte(1) << 6U | byte(2);
+}
+
+} // namespace
+
+void JsonWriter::comma() {
+    if (wantsComma_)
+        bytes_ += ',';
+    wantsComma_ = true;
+}
+
+void JsonWriter::open(char bracket) {
+    comma();
+    bytes_ += bracket;
+    wantsComma_ = false;
+}
+
+void JsonWriter::close(char bracket) {
+    bytes_ += bracket;
+    wantsComma_ = true;
+}
+
+void JsonWriter::name(std::string_view name) {
+    add(name);
+    bytes_ += ':';
+    wantsComma_ = false;
+}
+
+void JsonWriter::addBare(std::string_view value) {
+    comma();
+    bytes_ += value;
+}
+
+void JsonWriter::add(std::string_view text) {
+    comma();
+    bytes_ += '"';
+    while (!text.empty()) {
+        std::size_t plain = 0;
+        while (plain < text.size() && isPlain(text[plain]))
+            ++plain;
+        bytes_ += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty())
+            break;
+        const std::string_view character = text.substr(0, characterSize(text));
+        if (character.size() == 1 && static_cast<unsigned char>(character[0]) >= 0x80)
+            bytes_ += "\uFFFD";
+        else if (isHarmful(character))
+            appendEscape(bytes_, valueOf(character));
+        else
+            bytes_.append(character == "\"" || character == "\\" ? "\\" : "").append(character);
+        text.remove_prefix(character.size());
+    }
+    bytes_ += '"';
+}
+
+void JsonWriter::endLine() {
+    bytes_ += '\n';
+    wantsComma_ = false;
+}
+
+std::string forPage(std::string_view json) {
+    std::string text;
+    text.reserve(json.size());
+    for (const char c : json) {
+        if (c == '<' || c == '>' || c == '&')
+            appendEscape(text, static_cast<unsigned char>(c));
+        else
+            text += c;
+    }
+    return text;
 }
 
 } // namespace norvane

@@ -1,29 +1,55 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace norvane {
 
-/// A text as a JSON string (RFC 8259), quotation marks included. Each byte that is no valid UTF-8
-/// becomes U+FFFD.
-std::string jsonText(std::string_view text);
-
-/// A JSON object as it grows.
-class JsonObject {
+/// JSON (RFC 8259) as it grows. Texts of any bytes are added; they come out as valid UTF-8, in
+/// which each byte that is no part of it is U+FFFD and each harmful character (isHarmful in text.h)
+/// is written as \uXXXX. There is no other way in for a text.
+class JsonWriter {
   public:
-    void add(std::string_view name, std::string_view text) { addValue(name, jsonText(text)); }
-    void add(std::string_view name, const char *text) { add(name, std::string_view(text)); }
-    void add(std::string_view name, std::size_t number) { addValue(name, std::to_string(number)); }
-    void add(std::string_view name, bool value) { addValue(name, value ? "true" : "false"); }
+    void beginObject() { open('{'); }
+    void endObject() { close('}'); }
+    void beginList() { open('['); }
+    void endList() { close(']'); }
 
-    /// `value` is JSON already.
-    void addValue(std::string_view name, std::string_view value);
+    /// In an object: the name of what is added next, which is the program's own.
+    void name(std::string_view name);
 
-    std::string text() const { return "{" + members_ + "}"; }
+    void add(std::string_view text);
+    void add(const char *text) { add(std::string_view(text)); }
+    void add(std::size_t number) { addBare(std::to_string(number)); }
+    void add(long number) { addBare(std::to_string(number)); }
+    void add(int number) { addBare(std::to_string(number)); }
+    void add(bool value) { addBare(value ? "true" : "false"); }
+    void addNull() { addBare("null"); }
+
+    template <class Value>
+    void member(std::string_view called, Value value) {
+        name(called);
+        add(value);
+    }
+
+    /// Ends a value; the next one stands in a line of its own.
+    void endLine();
+
+    std::string_view bytes() const { return bytes_; }
+    void clear() { bytes_.clear(); }
 
   private:
-    std::string members_;
+    void open(char bracket);
+    void close(char bracket);
+    void addBare(std::string_view value);
+    void comma();
+
+    std::string bytes_;
+    bool wantsComma_ = false;
 };
+
+/// JSON for a script element of a page: the same values, without "<", ">" and "&".
+std::string forPage(std::string_view json);
 
 } // namespace norvane

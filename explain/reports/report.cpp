@@ -1,156 +1,237 @@
 #include "explain/reports/report.h"
 
-#include "explain/reports/json.h"
-#include "framework/text/text.h"
-
 #include <algorithm>
 
 namespace norvane {
 
 namespace {
 
-std::string placeOf(std::string_view file, std::size_t line) {
-    return printable(file) + ":" + std::to_string(line) + ": ";
+constexpr std::string_view kNoCode = "not four hex digits";
+constexpr std::string_view kWrongParity = ", wrong parity";
+
+bool hasWrongParity(const SccWord &word) {
+    return word.isCode && !word.parity;
 }
 
-std::string padded(std::string text, std::size_t width) {
-    text.append(width - std::min(width, Len(text)), ' ');
-    return text;
+std::string_view nameOf(const SccWord &word) {
+    return word.isCode ? word.meaning->name : kNoCode;
 }
 
-std::string timesOf(const ExplainedWord &word) {
-    const std::string digits = printable(word.digits);
-    return word.times == 1   ? digits
-           : word.times == 2 ? digits + " " + digits
-                             : digits + " x" + std::to_string(word.times);
+/// How wide the columns of a line's words are, in characters.
+struct Widths {
+    std::size_t digits = 0;
+    std::size_t name = 0;
+};
+
+std::size_t nameSize(const SccWord &word) {
+    return (word.isCode ? word.meaning->nameSize : kNoCode.size()) +
+           (hasWrongParity(word) ? kWrongParity.size() : 0);
 }
 
-std::string nameOf(const ExplainedWord &word) {
-    return std::string(word.name).append(word.wrongParity ? ", wrong parity" : "");
+/// "9420", "9420 9420", "8080 x5".
+std::size_t digitsSize(const SccWord &word, std::size_t times) {
+    const std::size_t size = word.isCode ? word.digits.size() : Len(word.digits);
+    return times == 1   ? size
+           : times == 2 ? 2 * size + 1
+                        : size + std::string_view(" x").size() + std::to_string(times).size();
 }
 
-std::string headOf(const SccLine &line, const std::optional<std::size_t> &shownAt) {
-    std::string head = printable(line.data.timecode);
+void addDigits(TextReport &report, const SccWord &word, std::size_t times) {
+    report.add(word.digits);
+    if (times == 2)
+        report.add(" ").add(word.digits);
+    else if (times > 2)
+        report.add(" x").add(times);
+}
+
+void addPlace(TextReport &report, std::string_view file, std::size_t line) {
+    report.add(file).add(":").add(line).add(": ");
+}
+
+void addHead(TextReport &report, const SccLine &line, const std::optional<std::size_t> &shownAt) {
+    report.add(line.data.timecode);
     if (line.timecode)
-        head += line.timecode->dropFrame ? ", drop-frame" : ", non-drop";
-    head += ", " + counted(static_cast<long>(line.words.size()), "word");
+        report.add(line.timecode->dropFrame ? ", drop-frame" : ", non-drop");
+    report.add(", ").add(counted(static_cast<long>(line.words.size()), "word"));
     if (line.mode != Mode::unknown)
-        head.append(", ").append(nameOf(line.mode));
+        report.add(", ").add(nameOf(line.mode));
     if (shownAt) {
-        head += ", shown at +" + std::to_string(*shownAt);
+        report.add(", shown at +").add(*shownAt);
         if (line.timecode) {
-            head += " (" +
-                    frameTimecode(line.timecode->count() + static_cast<long>(*shownAt),
-                                  line.timecode->dropFrame) +
-                    ")";
+            report.add(" (")
+                .add(frameTimecode(line.timecode->count() + static_cast<long>(*shownAt),
+                                   line.timecode->dropFrame))
+                .add(")");
         }
     }
-    return head;
 }
 
-std::string wordsAsJson(const std::vector<ExplainedWord> &words) {
-    std::string list;
-    for (const ExplainedWord &word : words) {
-        JsonObject object;
-        object.add("frame", word.frame);
-        object.add("word", word.digits);
-        object.add("times", word.times);
-        object.add("service", nameOf(word.service));
-        object.add("name", word.name);
-        object.add("parity", !word.wrongParity);
-        object.add("text", word.fate.text);
-        object.add("kept", word.fate.kept);
-        object.add("swallowed", word.fate.swallowed);
-        list.append(list.empty() ? "" : ",").append(object.text());
+/// What became of words: “Th”, deleted, blank, ...
+void addFate(TextReport &report, const WordFate &fate) {
+    const bool hasText = fate.isBlank || !fate.text.empty();
+    if (fate.isBlank)
+        report.add("blank");
+    else if (hasText)
+        report.add("“").add(fate.text).add("”");
+    bool isFirst = !hasText;
+    for (const auto &[digits, what] :
+         {std::pair(&fate.swallowed, " swallowed"), {&fate.kept, " kept"}}) {
+        if (digits->empty())
+            continue;
+        report.add(isFirst ? "" : ", ").add(*digits).add(what);
+        isFirst = false;
     }
-    return "[" + list + "]";
+    if (isFirst)
+        report.add(fate.isShared ? "read with the word before" : "deleted");
 }
 
-std::string listAsJson(const std::vector<std::string> &texts) {
-    std::string list;
-    for (const std::string &text : texts)
-        list.append(list.empty() ? "" : ",").append(jsonText(text));
-    return "[" + list + "]";
+void addAdvice(TextReport &report, const std::vector<std::string> &advice) {
+    for (const std::string &text : advice) {
+        report.add("  ").add(text);
+        report.endLine();
+    }
+    if (advice.empty()) {
+        report.add("  Nothing to correct.");
+        report.endLine();
+    }
+}
+
+void addAdvice(JsonWriter &json, const std::vector<std::string> &advice) {
+    json.name("advice");
+    json.beginList();
+    for (const std::string &text : advice)
+        json.add(text);
+    json.endList();
+}
+
+void addWords(TextReport &report, const Explanation &explanation) {
+    constexpr std::size_t kServiceWidth = 3;
+    constexpr std::size_t kFrameWidth = 4;
+    const SccLine &line = *explanation.line;
+    Widths widths;
+    for (const auto &[first, times] : explanation.words) {
+        widths.digits = std::max(widths.digits, digitsSize(line.words[first], times));
+        widths.name = std::max(widths.name, nameSize(line.words[first]));
+    }
+    for (const auto &[first, times] : explanation.words) {
+        const SccWord &word = line.words[first];
+        const std::string_view service = nameOf(word.service);
+        const std::string frame = "+" + std::to_string(first);
+        report.pad(kFrameWidth, frame.size()).add(frame).add("  ");
+        addDigits(report, word, times);
+        report.pad(widths.digits, digitsSize(word, times)).add("  ").add(service);
+        report.pad(kServiceWidth, service.size()).add("  ").add(nameOf(word));
+        report.add(hasWrongParity(word) ? kWrongParity : "").pad(widths.name, nameSize(word));
+        report.add("  ");
+        if (explanation.entry)
+            addFate(report, explanation.walk->fateOf(first, times));
+        else
+            report.add("lost");
+        report.endLine();
+    }
+}
+
+void addWords(JsonWriter &json, const Explanation &explanation) {
+    const SccLine &line = *explanation.line;
+    json.name("words");
+    json.beginList();
+    for (const auto &[first, times] : explanation.words) {
+        const SccWord &word = line.words[first];
+        const WordFate fate = explanation.walk->fateOf(first, times);
+        json.beginObject();
+        json.member("frame", first);
+        json.member("word", word.digits);
+        json.member("times", times);
+        json.member("service", nameOf(word.service));
+        json.member("name", nameOf(word));
+        json.member("parity", !hasWrongParity(word));
+        json.member("text", fate.text);
+        json.member("kept", std::string_view(fate.kept));
+        json.member("swallowed", std::string_view(fate.swallowed));
+        json.endObject();
+    }
+    json.endList();
 }
 
 } // namespace
 
-std::string reportOf(const Explanation &explanation, std::string_view file) {
-    const SccLine &line = explanation.line;
-    std::string report = placeOf(file, line.number);
-    if (explanation.isHeader) {
-        report += "header, passed over: " + startInQuotes(line.text) + "\n";
-    } else if (line.refusal) {
-        report.append(messageOf(*line.refusal)).append("\n");
-    } else {
-        report += headOf(line, explanation.shownAt) + "\n";
-        if (explanation.entry)
-            report += "entry " + std::to_string(line.entry) + " [" + printable(explanation.start) +
-                      "] " + printable(*explanation.entry) + "\n";
-    }
-    std::size_t wordWidth = 0;
-    std::size_t nameWidth = 0;
-    for (const ExplainedWord &word : explanation.words) {
-        wordWidth = std::max(wordWidth, Len(timesOf(word)));
-        nameWidth = std::max(nameWidth, Len(nameOf(word)));
-    }
-    for (const ExplainedWord &word : explanation.words) {
-        const std::string frame = "+" + std::to_string(word.frame);
-        report += std::string(frame.size() < 4 ? 4 - frame.size() : 0, ' ') + frame + "  " +
-                  padded(timesOf(word), wordWidth) + "  " +
-                  padded(std::string(nameOf(word.service)), 3) + "  " +
-                  padded(nameOf(word), nameWidth) + "  " +
-                  (explanation.entry ? became(word.fate) : "lost") + "\n";
-    }
-    for (const std::string &advice : explanation.advice)
-        report += "  " + advice + "\n";
-    if (explanation.advice.empty())
-        report += "  Nothing to correct.\n";
-    return report;
+void addHeader(TextReport &report, std::string_view file, std::size_t line, std::string_view header,
+               const std::vector<std::string> &advice) {
+    addPlace(report, file, line);
+    report.add("header, passed over: ").add(startInQuotes(header));
+    report.endLine();
+    addAdvice(report, advice);
 }
 
-std::string jsonOf(const Explanation &explanation, std::string_view file) {
-    const SccLine &line = explanation.line;
-    JsonObject object;
-    object.add("file", file);
-    object.add("line", line.number);
-    if (explanation.isHeader) {
-        object.add("header", line.text);
-    } else if (line.refusal) {
-        object.add("refused", messageOf(*line.refusal));
+void addHeader(JsonWriter &json, std::string_view file, std::size_t line, std::string_view header,
+               const std::vector<std::string> &advice) {
+    json.beginObject();
+    json.member("file", file);
+    json.member("line", line);
+    json.member("header", header);
+    addAdvice(json, advice);
+    json.endObject();
+    json.endLine();
+}
+
+void add(TextReport &report, std::string_view file, const Explanation &explanation) {
+    const SccLine &line = *explanation.line;
+    addPlace(report, file, line.number);
+    if (line.refusal)
+        report.add(messageOf(*line.refusal));
+    else
+        addHead(report, line, explanation.shownAt);
+    report.endLine();
+    if (explanation.entry) {
+        report.add("entry ").add(line.entry).add(" [").add(explanation.start).add("] ");
+        report.add(*explanation.entry);
+        report.endLine();
+    }
+    addWords(report, explanation);
+    addAdvice(report, explanation.advice);
+}
+
+void add(JsonWriter &json, std::string_view file, const Explanation &explanation) {
+    const SccLine &line = *explanation.line;
+    json.beginObject();
+    json.member("file", file);
+    json.member("line", line.number);
+    if (line.refusal) {
+        json.member("refused", messageOf(*line.refusal));
     } else {
-        object.add("timecode", line.data.timecode);
-        object.add("dropFrame", line.timecode && line.timecode->dropFrame);
-        object.add("mode", nameOf(line.mode));
-        object.add("frames", line.words.size());
+        json.member("timecode", line.data.timecode);
+        json.member("dropFrame", line.timecode && line.timecode->dropFrame);
+        json.member("mode", nameOf(line.mode));
+        json.member("frames", line.words.size());
         if (explanation.shownAt)
-            object.add("shownAt", *explanation.shownAt);
+            json.member("shownAt", *explanation.shownAt);
         if (explanation.entry) {
-            object.add("entry", line.entry);
-            object.add("start", explanation.start);
-            object.add("text", *explanation.entry);
+            json.member("entry", line.entry);
+            json.member("start", std::string_view(explanation.start));
+            json.member("text", *explanation.entry);
         }
-        object.addValue("words", wordsAsJson(explanation.words));
+        addWords(json, explanation);
     }
-    object.addValue("advice", listAsJson(explanation.advice));
-    return object.text() + "\n";
+    addAdvice(json, explanation.advice);
+    json.endObject();
+    json.endLine();
 }
 
-std::string reportOf(const Finding &finding, std::string_view file) {
-    return placeOf(file, finding.line)
-        .append(kFindingNames.at(static_cast<std::size_t>(finding.kind)))
-        .append(": ")
-        .append(finding.text)
-        .append("\n");
+void add(TextReport &report, std::string_view file, const Finding &finding) {
+    addPlace(report, file, finding.line);
+    report.add(kFindingNames.at(static_cast<std::size_t>(finding.kind)));
+    report.add(": ").add(finding.text);
+    report.endLine();
 }
 
-std::string jsonOf(const Finding &finding, std::string_view file) {
-    JsonObject object;
-    object.add("file", file);
-    object.add("line", finding.line);
-    object.add("kind", kFindingNames.at(static_cast<std::size_t>(finding.kind)));
-    object.add("text", finding.text);
-    return object.text() + "\n";
+void add(JsonWriter &json, std::string_view file, const Finding &finding) {
+    json.beginObject();
+    json.member("file", file);
+    json.member("line", finding.line);
+    json.member("kind", kFindingNames.at(static_cast<std::size_t>(finding.kind)));
+    json.member("text", std::string_view(finding.text));
+    json.endObject();
+    json.endLine();
 }
 
 } // namespace norvane

@@ -188,6 +188,7 @@ class Meanings {
                 CodeMeaning &meaning = list_.at(first * kBytes + second);
                 meaning = draft.meaning;
                 meaning.textSize = static_cast<std::uint16_t>(Len(draft.shown));
+                meaning.nameSize = static_cast<std::uint16_t>(Len(draft.name));
                 meaning.name = keep(draft.name);
                 meaning.shown = draft.shown.empty() ? std::string_view() : keep(draft.shown);
             }

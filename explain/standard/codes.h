@@ -57,6 +57,7 @@ struct CodeMeaning {
     std::uint16_t code = 0;       // without parity bits and as of the first channel and field
     std::uint16_t withParity = 0; // as sent, with the bits that make the ones of a byte odd
     std::uint16_t textSize = 0;   // of `shown`, in characters
+    std::uint16_t nameSize = 0;   // of `name`
     std::string_view name{};      // for the user
     std::string_view shown{};     // the characters that a viewer would see
 };

@@ -14,38 +14,38 @@ void pass(TracedText &entry, const RegEx &captionRegEx, std::string_view find) {
     if (captionRegEx.Search(entry.text()))
         entry.replaceFirst(find, "");
     if (entry.text() == " ")
-        entry.replace({{0, 1, ""}});
+        TracedText::Edit(entry).replace(0, 1, "");
 }
 
 } // namespace
 
 void replaceCodeWords(TracedText &text) {
     for (std::size_t row = kFirstWalkedRow; row <= kLastWalkedRow; ++row)
-        text.replaceAll(replacementChain[row - 1].key, replacementChain[row - 1].with, row);
+        text.replaceAll(replacementChain[row - 1].key, replacementChain[row - 1].with);
 }
 
 bool readLetters(TracedText &text) {
     if (text.text().empty())
-        text.replace({{0, 0, "2020"}});
+        text.fill("2020");
     const TextArray charArray = Split(text.text(), "");
     if (charArray.size() == 1)
         return false;
     std::vector<std::string> pairArray;
-    std::vector<TracedText::Piece> pieces;
-    std::size_t start = 0;
-    pairArray.reserve(charArray.size()); // whose texts the pieces view
-    for (std::size_t i = 0; i + 1 < charArray.size(); i += 2) {
-        const std::string pair = std::string(charArray[i]).append(charArray[i + 1]);
-        pairArray.push_back(convertSCC2Letters(pair));
-        if (pairArray.back() != pair)
-            pieces.push_back({start, pair.size(), pairArray.back()});
-        start += pair.size();
+    for (std::size_t i = 0; i + 1 < charArray.size(); i += 2)
+        pairArray.push_back(std::string(charArray[i]).append(charArray[i + 1]));
+    {
+        TracedText::Edit edit(text);
+        std::size_t start = 0;
+        for (const std::string &pair : pairArray) {
+            if (const std::string letter = convertSCC2Letters(pair); letter != pair)
+                edit.replace(start, pair.size(), letter);
+            start += pair.size();
+        }
+        if (start < text.text().size()) // an odd character at the end
+            edit.replace(start, text.text().size() - start, "");
     }
-    if (start < text.text().size()) // an odd character at the end
-        pieces.push_back({start, text.text().size() - start, ""});
-    text.replace(pieces);
     const TableRow &marks = replacementChain[kMarksRow - 1];
-    text.replaceAll(marks.key, marks.with, kMarksRow);
+    text.replaceAll(marks.key, marks.with);
     return true;
 }
 

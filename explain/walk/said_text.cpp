@@ -6,22 +6,13 @@
 
 namespace norvane {
 
-namespace {
-
-bool isGap(const SaidText &character) {
-    return character.text.empty() || character.text == " ";
-}
-
-} // namespace
-
 SaidLine::SaidLine(const SccLine &line) {
-    std::vector<SaidText> &characters = characters_;
     for (const SccWord &word : line.words) {
         const std::size_t start = line.placeOf(word);
         const std::size_t end = start + word.digits.size();
-        if (word.meaning->kind == CodeKind::extended && !characters.empty() &&
-            !isGap(characters.back()))
-            characters.pop_back(); // it takes its place
+        if (word.meaning->kind == CodeKind::extended && !characters_.empty() &&
+            !characters_.back().isGap())
+            characters_.pop_back(); // it takes its place
         if (word.meaning->kind == CodeKind::text) {
             // One character for each byte that is not a filler.
             std::string_view shown = word.meaning->shown;
@@ -29,38 +20,37 @@ SaidLine::SaidLine(const SccLine &line) {
                 if (at == start && (word.meaning->code >> 8U) == 0)
                     continue;
                 const std::size_t size = characterSize(shown);
-                characters.push_back({std::string(shown.substr(0, size)), at, at + 2});
+                characters_.push_back({shown.substr(0, size), at, at + 2});
                 shown.remove_prefix(size);
             }
         } else if (word.meaning->kind != CodeKind::filler) {
-            characters.push_back({std::string(word.meaning->shown), start, end});
+            characters_.push_back({word.meaning->shown, start, end});
         }
     }
 }
 
 SaidText SaidLine::around(std::size_t first, std::size_t last) const {
-    const std::vector<SaidText> &characters = characters_;
     auto from = static_cast<std::size_t>(
-        std::partition_point(characters.begin(), characters.end(),
-                             [first](const SaidText &one) { return one.end <= first; }) -
-        characters.begin());
+        std::partition_point(characters_.begin(), characters_.end(),
+                             [first](const Character &one) { return one.end <= first; }) -
+        characters_.begin());
     std::size_t to = from;
-    while (to < characters.size() && characters[to].start <= last)
+    while (to < characters_.size() && characters_[to].start <= last)
         ++to;
     // Gaps at the ends are not part of it, letters beyond them are.
-    while (from < to && isGap(characters[from]))
+    while (from < to && characters_[from].isGap())
         ++from;
-    while (from < to && isGap(characters[to - 1]))
+    while (from < to && characters_[to - 1].isGap())
         --to;
     if (from == to)
         return {};
-    while (from > 0 && !isGap(characters[from - 1]))
+    while (from > 0 && !characters_[from - 1].isGap())
         --from;
-    while (to < characters.size() && !isGap(characters[to]))
+    while (to < characters_.size() && !characters_[to].isGap())
         ++to;
-    SaidText said{"", characters[from].start, characters[to - 1].end};
+    SaidText said{"", characters_[from].start, characters_[to - 1].end};
     for (std::size_t i = from; i < to; ++i)
-        said.text += characters[i].text;
+        said.text += characters_[i].text;
     return said;
 }
 

@@ -2,11 +2,13 @@
 
 #include "explain/standard/scc_line.h"
 
+#include <string>
+
 namespace norvane {
 
 /// A piece of what a line's words say by CEA-608, and where in the hex text it stands.
 struct SaidText {
-    std::string text;
+    std::string text{};
     std::size_t start = 0;
     std::size_t end = 0;
 };
@@ -21,7 +23,14 @@ class SaidLine {
     SaidText around(std::size_t first, std::size_t last) const;
 
   private:
-    std::vector<SaidText> characters_; // an empty one for each code without any
+    struct Character {
+        std::string_view text; // empty for a code without any
+        std::size_t start;
+        std::size_t end;
+
+        bool isGap() const { return text.empty() || text == " "; }
+    };
+    std::vector<Character> characters_;
 };
 
 } // namespace norvane

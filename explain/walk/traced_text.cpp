@@ -1,79 +1,85 @@
 #include "explain/walk/traced_text.h"
 
-#include "framework/text/text.h"
-
 #include <algorithm>
-#include <numeric>
-#include <set>
+#include <cstring>
 
 namespace norvane {
 
 TracedText::TracedText(std::string_view source)
-    : text_(source), places_(source.size()), sourceSize_(source.size()), nextPlace_(source.size()) {
-    std::iota(places_.begin(), places_.end(), Place{0});
+    : text_(source), origins_(source.size()), gone_(source.size()) {
+    if (source.size() >= kUntouched)
+        throw OutOfBoundsException("the line is too long to be explained.");
+    for (Place place = 0; place < source.size(); ++place)
+        origins_[place] = {place, place | kUntouched};
 }
 
-void TracedText::replace(const std::vector<Piece> &pieces, std::size_t row) {
-    if (pieces.empty())
-        return;
-    std::string text;
-    std::vector<Place> places;
-    const auto placesFrom = [this](std::size_t start) {
-        return places_.begin() + static_cast<std::ptrdiff_t>(start);
-    };
-    std::size_t done = 0;
-    const auto keepUpTo = [&](std::size_t end) {
-        text.append(text_, done, end - done);
-        places.insert(places.end(), placesFrom(done), placesFrom(end));
-    };
-    for (const auto &[start, size, with] : pieces) {
-        keepUpTo(start);
-        changes_.push_back(
-            {row, {placesFrom(start), placesFrom(start + size)}, nextPlace_, with.size()});
-        done = start + size;
-        text += with;
-        for (std::size_t i = 0; i < with.size(); ++i)
-            places.push_back(nextPlace_++);
-    }
-    keepUpTo(text_.size());
-    text_ = std::move(text);
-    places_ = std::move(places);
+std::pair<std::size_t, std::size_t> TracedText::bytesBetween(std::size_t start,
+                                                             std::size_t end) const {
+    const auto first = std::partition_point(origins_.begin(), origins_.end(),
+                                            [=](const Origin &at) { return at.last() < start; });
+    const auto behind = std::partition_point(first, origins_.end(),
+                                             [=](const Origin &at) { return at.first < end; });
+    return {static_cast<std::size_t>(first - origins_.begin()),
+            static_cast<std::size_t>(behind - origins_.begin())};
 }
 
-void TracedText::replaceAll(std::string_view find, std::string_view with, std::size_t row) {
-    std::vector<Piece> pieces;
-    for (std::size_t at = findIgnoringCase(text_, find); at != std::string::npos;
-         at = findIgnoringCase(text_, find, at + find.size()))
-        pieces.push_back({at, find.size(), with});
-    replace(pieces, row);
+bool TracedText::comesFrom(std::size_t byte, std::size_t start, std::size_t end) const {
+    const Origin &origin = origins_[byte];
+    std::size_t place = std::max<std::size_t>(origin.first, start);
+    const std::size_t behind = std::min<std::size_t>(origin.last() + std::size_t{1}, end);
+    while (place < behind && gone_[place])
+        ++place;
+    return place < behind;
 }
 
 void TracedText::replaceAllB(std::string_view find, std::string_view with) {
-    std::vector<Piece> pieces;
+    Edit edit(*this);
     for (std::size_t at = text_.find(find); at != std::string::npos;
          at = text_.find(find, at + find.size()))
-        pieces.push_back({at, find.size(), with});
-    replace(pieces);
+        edit.replace(at, find.size(), with);
 }
 
 void TracedText::replaceFirst(std::string_view find, std::string_view with) {
     const std::size_t at = findIgnoringCase(text_, find);
     if (at != std::string::npos)
-        replace({{at, find.size(), with}});
+        Edit(*this).replace(at, find.size(), with);
 }
 
-std::vector<TracedText::Place> TracedText::sourcesOf(Place place) const {
-    if (place < sourceSize_)
-        return {place};
-    const auto change = std::upper_bound(
-        changes_.begin(), changes_.end(), place,
-        [](Place wanted, const Change &made) { return wanted < made.put + made.size; });
-    std::set<Place> sources;
-    for (const Place taken : change->taken) {
-        const std::vector<Place> further = sourcesOf(taken);
-        sources.insert(further.begin(), further.end());
+void TracedText::fill(std::string_view with) {
+    text_ = with;
+    origins_.assign(with.size(), Origin());
+}
+
+void TracedText::Edit::replace(std::size_t start, std::size_t size, std::string_view with) {
+    if (with.size() > size)
+        throw OutOfBoundsException("a replacement is longer than what it replaces.");
+    keepUpTo(start);
+    std::vector<Origin> &origins = text_.origins_;
+    const Origin origin{origins[start].first, origins[start + size - 1].last()};
+    for (std::size_t byte = start; with.empty() && byte < start + size; ++byte) {
+        if (origins[byte].isUntouched())
+            text_.gone_[origins[byte].first] = true;
     }
-    return {sources.begin(), sources.end()};
+    std::copy(with.begin(), with.end(), text_.text_.begin() + static_cast<std::ptrdiff_t>(kept_));
+    std::fill_n(origins.begin() + static_cast<std::ptrdiff_t>(kept_), with.size(), origin);
+    kept_ += with.size();
+    read_ = start + size;
+}
+
+void TracedText::Edit::keepUpTo(std::size_t end) {
+    if (kept_ != read_) {
+        std::memmove(text_.text_.data() + kept_, text_.text_.data() + read_, end - read_);
+        std::memmove(text_.origins_.data() + kept_, text_.origins_.data() + read_,
+                     (end - read_) * sizeof(Origin));
+    }
+    kept_ += end - read_;
+    read_ = end;
+}
+
+TracedText::Edit::~Edit() {
+    keepUpTo(text_.text_.size());
+    text_.text_.resize(kept_);
+    text_.origins_.resize(kept_);
 }
 
 } // namespace norvane

@@ -143,16 +143,35 @@ bool isAscii(std::string_view text) {
     return (all & 0x8080808080808080U) == 0;
 }
 
+bool isHarmful(std::string_view character) {
+    const auto last = static_cast<unsigned char>(character.back());
+    if (character.size() == 1)
+        return last < ' ' || (last >= 0x7F && last < 0xA0);
+    if (character.size() == 2)
+        return (character[0] == '\xC2' && last < 0xA0) || character == "\u061C";
+    return character == "\u200E" || character == "\u200F" ||
+           (character >= "\u2028" && character <= "\u202E") ||
+           (character >= "\u2066" && character <= "\u2069");
+}
+
+void appendPrintable(std::string &result, std::string_view text) {
+    while (!text.empty()) {
+        std::size_t plain = 0;
+        while (plain < text.size() && text[plain] >= ' ' && text[plain] < 0x7F)
+            ++plain;
+        result += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty())
+            return;
+        const std::string_view character = text.substr(0, characterSize(text));
+        result += isHarmful(character) ? std::string_view("?") : character;
+        text.remove_prefix(character.size());
+    }
+}
+
 std::string printable(std::string_view text) {
     std::string result;
-    while (!text.empty()) {
-        const std::size_t size = characterSize(text);
-        const auto last = static_cast<unsigned char>(text[size - 1]);
-        const bool control = size == 1 ? last < ' ' || (last >= 0x7F && last < 0xA0)
-                                       : size == 2 && text[0] == '\xC2' && last < 0xA0;
-        result += control ? std::string_view("?") : text.substr(0, size);
-        text.remove_prefix(size);
-    }
+    appendPrintable(result, text);
     return result;
 }
 

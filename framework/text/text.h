@@ -65,9 +65,14 @@ std::size_t characterSize(std::string_view text);
 /// True when every byte of `text` is ASCII, so that its bytes are its characters.
 bool isAscii(std::string_view text);
 
-/// `text` with "?" for each control character: those of ASCII, U+0080 to U+009F, and single bytes
-/// of that range, which some terminals obey.
+/// Whether a character is one that a terminal or a page may obey in place of showing it: a control
+/// character of ASCII or from U+0080 to U+009F, a single byte of that range, the separators U+2028
+/// and U+2029, and the marks that turn the direction of text.
+bool isHarmful(std::string_view character);
+
+/// `text` with "?" for each harmful character.
 std::string printable(std::string_view text);
+void appendPrintable(std::string &result, std::string_view text);
 
 /// A name or path in quotation marks for a message, control characters replaced.
 std::string inQuotes(std::string_view text);

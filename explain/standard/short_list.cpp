@@ -1,4 +1,4 @@
-#include "explain/checks/findings.h"
+#include "explain/standard/short_list.h"
 
 namespace norvane {
 

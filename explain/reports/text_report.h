@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+/// Lines for people, on their way to a terminal. Whatever is added to one comes out harmless
+/// (isHarmful in text.h), since this is the only way in, for the words of a film, a file's name and
+/// the program's own texts alike.
+class TextReport {
+  public:
+    TextReport &add(std::string_view text);
+    TextReport &add(std::size_t number) { return add(std::string_view(std::to_string(number))); }
+
+    /// Blanks up to `width`, for what was added with `characters` characters.
+    TextReport &pad(std::size_t width, std::size_t characters) {
+        bytes_.append(width > characters ? width - characters : 0, ' ');
+        return *this;
+    }
+    void endLine() { bytes_ += '\n'; }
+
+    std::string_view bytes() const { return bytes_; }
+    void clear() { bytes_.clear(); }
+
+  private:
+    std::string bytes_;
+};
+
+} // namespace norvane

@@ -1,0 +1,288 @@
+#include "explain/walk/entry_remarks.h"
+
+#include "decode/rows_of_code.h"
+#include "explain/standard/short_list.h"
+#include "explain/walk/said_text.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+// What the transcript has for a word follows from the rows alone, and where that is not what the
+// word says, the reader should know why. Three causes concern the rows: a key that nobody sent was
+// found across words (a crossing); a character was put in without its blank, so that all pairs
+// behind it are cut in the wrong places; a code has no row and stays as digits. The others lie
+// between what is written and what is seen: a code that is deleted, or replaced by hyphens, where
+// a screen has a column; a plain character for old decoders, which a screen replaces.
+
+namespace norvane {
+
+namespace {
+
+using Kind = EntryRemark::Kind;
+
+/// Whether a row ahead of the deletion of the blanks puts an odd number of characters in the place
+/// of a word, its blank aside.
+constexpr bool isOddRow(std::size_t row) {
+    const std::string_view with = replacementChain[row - 1].with;
+    return std::count_if(with.begin(), with.end(),
+                         [](char c) {
+                             return c != ' ' && (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+                         }) %
+               2 ==
+           1;
+}
+
+/// Characters whose blank the chain deletes, so that the pairs behind one of them are cut in the
+/// wrong places, until another comes.
+bool isNarrow(const SccWord &word) {
+    const std::size_t row = kRowsOfCode.first[word.code];
+    return word.isCode && row != 0 && row < kBlanksRow && isOddRow(row);
+}
+
+bool isCharacterCode(const SccWord &word) {
+    return word.meaning->kind == CodeKind::special || word.meaning->kind == CodeKind::extended;
+}
+
+/// Whether a code parts on the screen what stands before it and behind it.
+bool parts(const CodeMeaning &meaning) {
+    return meaning.kind == CodeKind::midRow || meaning.kind == CodeKind::tabOffset ||
+           meaning.code == code::kCr;
+}
+
+std::string lastCharacter(std::string_view text) {
+    while (text.size() > characterSize(text))
+        text.remove_prefix(characterSize(text));
+    return std::string(text);
+}
+
+std::string nameOfKey(const std::string &key) {
+    const int code = codeOfWord(key);
+    return code < 0 ? "a filler" : std::string(meaningOf(static_cast<std::uint16_t>(code)).name);
+}
+
+/// Puts the remarks on one line together.
+class Remarker {
+  public:
+    Remarker(const SccLine &line, const LineWalk &walk, std::vector<EntryRemark> &remarks)
+        : line_(line), walk_(walk), remarks_(remarks) {}
+
+    void remarkOnCrossings();
+    void remarkOnDigits();
+    void advise();
+
+  private:
+    struct Told {
+        bool style = false;
+        bool block = false;
+    };
+
+    void add(Kind kind, std::size_t word, std::size_t count, std::string text) {
+        if (said_.insert(text).second)
+            remarks_.push_back({kind, word, count, std::move(text)});
+    }
+    const SaidLine &said() {
+        if (!saidLine_)
+            saidLine_.emplace(line_);
+        return *saidLine_;
+    }
+    std::string saidBy(std::size_t word);
+    std::string tell(const Crossing &crossing) const;
+    bool isSound(const Crossing &crossing) const;
+    void remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> crossings);
+    void adviseOn(std::size_t word, Told &told);
+    void adviseOnGluing(std::size_t code);
+
+    const SccLine &line_;
+    const LineWalk &walk_;
+    std::vector<EntryRemark> &remarks_;
+    std::unordered_set<std::string> said_;
+    std::optional<SaidLine> saidLine_;
+};
+
+/// "9 of d049 and 454 of 4543 read together as 9454 (PAC row 14 indent 8)".
+std::string Remarker::tell(const Crossing &crossing) const {
+    std::string text;
+    std::string key;
+    for (std::size_t i = 0; i < crossing.count;) {
+        const std::size_t index = line_.wordAt(crossing.places.at(i));
+        const SccWord &word = line_.words[index];
+        std::string digits;
+        for (; i < crossing.count && line_.wordAt(crossing.places.at(i)) == index; ++i)
+            digits += line_.data.hexText[crossing.places.at(i)];
+        text += text.empty() ? "" : i < crossing.count ? ", " : " and ";
+        text.append(digits).append(" of ").append(word.digits);
+        key += digits;
+    }
+    return text + " read together as " + key + " (" + nameOfKey(key) + ")";
+}
+
+bool Remarker::isSound(const Crossing &crossing) const {
+    return std::all_of(crossing.places.begin(), crossing.places.begin() + crossing.count,
+                       [this](TracedText::Place place) {
+                           const SccWord &word = line_.words[line_.wordAt(place)];
+                           return word.isCode && word.parity;
+                       });
+}
+
+/// Crossings in the same word of the language are told as one.
+void Remarker::remarkOnCrossings() {
+    std::vector<Crossing> crossings = walk_.crossings();
+    std::stable_sort(crossings.begin(), crossings.end(),
+                     [](const Crossing &a, const Crossing &b) { return a.first() < b.first(); });
+    for (auto next = crossings.begin(); next != crossings.end();) {
+        const auto first = next;
+        const SaidText around = said().around(first->first(), first->last());
+        do
+            ++next;
+        while (next != crossings.end() && next->first() < around.end);
+        remarkOnCrossingsOf(around, {first, next});
+    }
+}
+
+void Remarker::remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> crossings) {
+    constexpr std::size_t kMost = 4;
+    const std::size_t word = line_.wordAt(crossings.front().first());
+    const std::size_t lastWord = line_.wordAt(crossings.back().last());
+    std::stable_sort(crossings.begin(), crossings.end(),
+                     [](const Crossing &a, const Crossing &b) { return a.row < b.row; });
+    std::string text;
+    if (!said.text.empty())
+        text = startInQuotes(said.text) + " becomes " +
+               startInQuotes(walk_.entryOf(said.start, said.end)) + ": ";
+    bool sound = true;
+    for (std::size_t i = 0; i < crossings.size(); ++i) {
+        sound = sound && isSound(crossings[i]);
+        if (i < kMost)
+            text += (i == 0 ? "" : ", and ") + tell(crossings[i]);
+    }
+    if (crossings.size() > kMost)
+        text += " and " + std::to_string(crossings.size() - kMost) + " more";
+    add(Kind::altered, word, lastWord - word + 1,
+        text + (sound ? ". The file is sound: correct the transcript."
+                      : ". Correct these words of the file first."));
+}
+
+void Remarker::remarkOnDigits() {
+    bool inStep = true;
+    ShortList kept;
+    std::unordered_set<std::string_view> told;
+    std::size_t first = line_.words.size();
+    std::size_t last = 0;
+    for (std::size_t i = 0; i < line_.words.size(); ++i) {
+        const SccWord &word = line_.words[i];
+        if (isNarrow(word)) {
+            inStep = !inStep;
+            if (!inStep && i + 1 < line_.words.size() && !isNarrow(line_.words[i + 1])) {
+                add(Kind::altered, i, 1,
+                    std::string(word.digits).append(", ").append(word.meaning->name) +
+                        ", has no blank in the transcript, and what follows is read out of step. "
+                        "The file is sound: correct the transcript.");
+            }
+            continue;
+        }
+        inStep = inStep && word.isCode;
+        const bool isOfFirst = word.service == Service::cc1 || word.service == Service::t1;
+        if (!inStep || !word.parity || !isOfFirst || word.meaning->kind == CodeKind::none ||
+            (walk_.isPlain() && !walk_.keepsDigits(i)))
+            continue;
+        const WordFate fate = walk_.fateOf(i, 1);
+        if (fate.kept.empty() || !fate.swallowed.empty() || !told.insert(word.digits).second)
+            continue;
+        kept.add(std::string(word.digits).append(" (").append(word.meaning->name) +
+                 "), which stays as " + inQuotes(fate.text));
+        first = std::min(first, i);
+        last = i;
+    }
+    if (!kept.empty()) {
+        add(Kind::digits, first, last - first + 1,
+            "The program does not know " + kept.text() +
+                ". The file is sound: correct the transcript.");
+    }
+}
+
+std::string Remarker::saidBy(std::size_t word) {
+    const std::size_t place = line_.placeOf(line_.words[word]);
+    return inQuotes(said().around(place, place + line_.words[word].digits.size()).text);
+}
+
+void Remarker::advise() {
+    Told told;
+    for (std::size_t i = 0; i < line_.words.size(); ++i)
+        adviseOn(i, told);
+    if (told.style)
+        add(Kind::advice, 0, line_.words.size(),
+            "“--” stands for a change of style, which takes a column: put a blank in its place.");
+    if (told.block)
+        add(Kind::advice, 0, line_.words.size(),
+            "“█” is a bar to the program, which takes bars out or makes them blanks: correct the "
+            "transcript.");
+}
+
+void Remarker::adviseOn(std::size_t index, Told &told) {
+    const SccWord &word = line_.words[index];
+    const CodeMeaning &meaning = *word.meaning;
+    if (meaning.kind == CodeKind::text) {
+        const std::string_view shown = meaning.shown;
+        told.block |= shown.find("█") != std::string_view::npos;
+        return;
+    }
+    const bool isStyle = meaning.kind == CodeKind::midRow || meaning.kind == CodeKind::control;
+    if (!isCharacterCode(word) && !isStyle && !parts(meaning))
+        return;
+    const WordFate fate = walk_.fateOf(index, 1);
+    const bool stands =
+        !fate.text.empty() && !fate.isBlank && fate.swallowed.empty() && fate.kept.empty();
+    if (isCharacterCode(word) && stands && word.repeats) {
+        add(Kind::advice, index - 1, 2,
+            inQuotes(meaning.shown) + " is sent twice, as codes are, and stands twice in the "
+                                      "transcript: take one out.");
+    } else if (meaning.kind == CodeKind::extended && stands && index > 0 &&
+               line_.words[index - 1].meaning->kind == CodeKind::text &&
+               walk_.fateOf(index - 1, 1).swallowed.empty()) {
+        const std::string plain = inQuotes(lastCharacter(line_.words[index - 1].meaning->shown));
+        add(Kind::advice, index - 1, 2,
+            inQuotes(meaning.shown) + " takes the place of the " + plain +
+                " before it, which is for old decoders; the transcript has both: take " + plain +
+                " out.");
+    } else if (parts(meaning) && !word.repeats && !stands) {
+        adviseOnGluing(index);
+    }
+    told.style |= stands && isStyle && fate.text.find("--") != std::string_view::npos;
+}
+
+/// A code that parts words stands for nothing when it is deleted, so that they stand together.
+void Remarker::adviseOnGluing(std::size_t code) {
+    const auto isNothing = [this](std::size_t word) {
+        return line_.words[word].repeats || line_.words[word].meaning->kind == CodeKind::filler;
+    };
+    std::size_t ahead = code;
+    std::size_t behind = code + 1;
+    while (ahead > 0 && (ahead == code || isNothing(ahead)))
+        --ahead;
+    while (behind < line_.words.size() && isNothing(behind))
+        ++behind;
+    if (behind >= line_.words.size())
+        return;
+    const CodeMeaning &before = *line_.words[ahead].meaning;
+    const CodeMeaning &after = *line_.words[behind].meaning;
+    if (isCharacters(before) && !before.shown.ends_with(' ') && isCharacters(after) &&
+        !after.shown.starts_with(' ')) {
+        add(Kind::advice, ahead, behind - ahead + 1,
+            std::string(line_.words[code].digits) + " parts " + saidBy(ahead) + " and " +
+                saidBy(behind) +
+                " on the screen, but the transcript has nothing for it: put a blank between them.");
+    }
+}
+
+} // namespace
+
+void remarkOn(const SccLine &line, const LineWalk &walk, bool wantsAdvice,
+              std::vector<EntryRemark> &remarks) {
+    Remarker remarker(line, walk, remarks);
+    remarker.remarkOnCrossings();
+    remarker.remarkOnDigits();
+    if (wantsAdvice)
+        remarker.advise();
+}
+
+} // namespace norvane

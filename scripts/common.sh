@@ -1,11 +1,13 @@
 # What the scripts share. $root is the root of the sources.
 
 build_packages='g++ cmake ninja-build'
-desktop_packages='qt6-base-dev qt6-base-dev-tools libgl1-mesa-dev'
+desktop_packages='qt6-base-dev qt6-base-dev-tools libgl-dev'
 test_packages='libgtest-dev libbenchmark-dev python3'
-check_packages='git clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool imagemagick fonts-dejavu-core python3 dbus at-spi2-core libglib2.0-bin'
+deb_packages="$build_packages $desktop_packages debhelper dpkg-dev"
+deb_check_packages='lintian desktop-file-utils appstream man-db shared-mime-info libglib2.0-bin fish zsh'
+check_packages='git clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool imagemagick fonts-dejavu-core python3 dbus at-spi2-core'
 
-# need PACKAGE...: installs those that are missing (Debian 12), or names them and the command for it.
+# need PACKAGE...: installs those that are missing (Debian), or names them and the command for it.
 need() {
     local missing=() admin=() package
     for package in "$@"; do
@@ -16,8 +18,8 @@ need() {
     local install=(apt-get install -y --no-install-recommends "${missing[@]}")
     if type -P apt-get "${admin[@]}" >/dev/null; then
         echo "Installing ${missing[*]}" >&2
-        "${admin[@]}" apt-get update -qq >&2 &&
-            "${admin[@]}" env DEBIAN_FRONTEND=noninteractive "${install[@]}" -qq >&2 && return
+        quietly "${admin[@]}" apt-get update &&
+            quietly "${admin[@]}" env DEBIAN_FRONTEND=noninteractive "${install[@]}" && return
     fi
     printf '%s\n' "These packages are missing and could not be installed: ${missing[*]}" \
         "The command for it: ${admin[*]} ${install[*]}" >&2
@@ -26,15 +28,17 @@ need() {
 
 # quietly COMMAND...: runs it, and shows what it printed only when it fails.
 quietly() {
-    local log
-    log=$(mktemp)
-    if "$@" >"$log" 2>&1; then
-        rm -f "$log"
-    else
-        cat "$log" >&2
-        rm -f "$log"
-        return 1
-    fi
+    local said
+    said=$("$@" 2>&1) || { printf '%s\n' "$said" >&2; return 1; }
+}
+
+# can_build PRESET: whether this user may write where that stands.
+can_build() {
+    local folder=$root/build/$1
+    while [ ! -e "$folder" ]; do folder=$(dirname "$folder"); done
+    [ -w "$folder" ] && return
+    echo "Norvane cannot be built here, since $(id -un) may not write in $folder; a copy of the sources can." >&2
+    return 1
 }
 
 # configure PRESET [PACKAGE...]: asks for packages only when the build misses something, since compiler,
@@ -52,6 +56,3 @@ build() {
     "${command[@]}" -- -n | grep -q 'no work to do' || echo 'Compiling Norvane; the first time takes some minutes.' >&2
     quietly "${command[@]}"
 }
-
-# package BUILD FOLDER: in a locale that knows whatever letters the path of the sources holds.
-package() { (cd "$1" && LC_ALL=C.UTF-8 quietly cpack -G DEB -B "$2"); }

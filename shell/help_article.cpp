@@ -24,9 +24,10 @@ std::string helpArticleAddress() {
 #ifdef NORVANE_HELP_ADDRESS
     return NORVANE_HELP_ADDRESS;
 #else
-    const std::string installed = disk::programFolder() + "/" NORVANE_HELP_FROM_PROGRAM;
-    return fileAddress(disk::kindOf(installed) == disk::Kind::file ? installed
-                                                                   : NORVANE_HELP_SOURCE);
+    const std::string folder = disk::programFolder() + "/";
+    const std::string beside = folder + "help.html"; // as in a build folder
+    return fileAddress(
+        disk::kindOf(beside) == disk::Kind::file ? beside : folder + NORVANE_HELP_FROM_PROGRAM);
 #endif
 }
 

@@ -4,8 +4,8 @@
 
 namespace norvane {
 
-/// The address of the help article: the one set at build time, or else the page that came with the
-/// program, as a file: address.
+/// The address of the help article: the one set at build time, or else, as a file: address, the
+/// page beside the program or where it is installed with it.
 std::string helpArticleAddress();
 
 /// The file: address of an absolute path; what an address may not hold as it is stands as %XX.

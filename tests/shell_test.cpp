@@ -58,7 +58,7 @@ TEST_F(Shell, ButtonsAndCommands) {
     EXPECT_EQ(seen(), scene("buttons"));
     desktop.click(window().PushButton1);
     EXPECT_EQ(desktop.takeLog(), Lines{"url " + helpArticleAddress()});
-    EXPECT_TRUE(helpArticleAddress().ends_with("/resources/help/help.html"));
+    EXPECT_TRUE(helpArticleAddress().ends_with("/norvane/help.html"));
     EXPECT_EQ(fileAddress("/AZaz09-._~/é @[`{:"), "file:///AZaz09-._~/%C3%A9%20%40%5B%60%7B%3A");
 }
 

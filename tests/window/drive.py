@@ -396,7 +396,7 @@ def main(build):
     look(program)
     transcribe(program, f"{build}/command/norvane-transcript", folder, opened)
     program.click("Troubleshooting")
-    wait_for("the help article is opened", lambda: opened.read_text().strip().endswith("help.html"))
+    wait_for("the help article is opened", lambda: opened.read_text().strip().endswith("/shell/help.html"))
     first = program.choose_about()
     check("the second About window", program.choose_about(), first)
     xdotool("key", "ctrl+q")

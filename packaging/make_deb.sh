@@ -39,5 +39,6 @@ tar -C "$work" --exclude=debian --sort=name --mtime="${date:-$(field Date)}" --o
 (cd "$sources" && LC_ALL=C.UTF-8 DEB_BUILD_OPTIONS="nocheck ${DEB_BUILD_OPTIONS:-}" DEB_BUILD_PROFILES=nocheck \
     quietly dpkg-buildpackage --no-sign --jobs=auto)
 rm -r "$sources"
+[ $# -gt 0 ] || rm -f "$out"/norvane{,-dbgsym}_* # so that there is one to install
 mv "$work"/* "$out"
 ls "$out/norvane_${version}"_*.deb

@@ -1,4 +1,5 @@
 #include "command/input.h"
+#include "command/option_file.h"
 #include "command/options.h"
 #include "command/report_files.h"
 #include "command/transcribe.h"
@@ -43,10 +44,28 @@ bool makeOutputFolder(const std::string &path) {
 int run(const Options &options) {
     if (!options.outputFolder.empty() && !makeOutputFolder(options.outputFolder))
         return 1;
+    if (options.summary && !options.json &&
+        !doAndTell("norvane-transcript", [] { printSummaryHead(); }))
+        return 1;
     bool allWell = true;
     for (const std::string &file : options.files)
         allWell = doTask(file, options) && allWell;
     return allWell ? 0 : 1;
+}
+
+/// The options that the program was called with, those in files among them. Wrong usage is told.
+Options optionsOf(int count, char **arguments) {
+    Options options;
+    options.exitStatus = 2;
+    doAndTell("norvane-transcript", [&] {
+        std::vector<std::string> all = withOptionFiles(count, arguments);
+        std::vector<char *> pointers;
+        for (std::string &argument : all)
+            pointers.push_back(argument.data());
+        pointers.push_back(nullptr); // as the system has it
+        options = readOptions(static_cast<int>(all.size()), pointers.data(), inputIsPiped());
+    });
+    return options;
 }
 
 /// Prints what the options answer by themselves.
@@ -63,6 +82,8 @@ int answer(const Options &options) {
 
 int main(int argc, char **argv) {
     norvane::disk::surviveSizeLimits();
-    const norvane::Options options = norvane::readOptions(argc, argv, norvane::inputIsPiped());
-    return options.answer.empty() ? norvane::run(options) : norvane::answer(options);
+    const norvane::Options options = norvane::optionsOf(argc, argv);
+    if (!options.answer.empty())
+        return norvane::answer(options);
+    return options.files.empty() ? options.exitStatus : norvane::run(options);
 }

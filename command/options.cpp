@@ -14,7 +14,8 @@ namespace {
 constexpr const char *kUsage =
     "Usage: norvane-transcript [OPTION]... FILE...\n"
     "       norvane-transcript --explain [--json] FILE[:LINE]...\n"
-    "       norvane-transcript --check [--json] [--without KIND,...] FILE...\n"
+    "       norvane-transcript --check [--json] [--each|--summary] [--without KIND,...]\n"
+    "                          [--limit NAME=VALUE]... [@RULES] FILE...\n"
     "Turns Scenarist Closed Caption files (.scc) into readable transcripts, explains what became\n"
     "of each word of a file, or checks files. A FILE named - is standard input, and so is none\n"
     "when something is piped in.\n"
@@ -27,7 +28,17 @@ constexpr const char *kUsage =
     "  --force                         replace transcripts that exist already\n"
     "  --explain                       for each data line, or for LINE alone: its words, what\n"
     "                                  they mean, what became of them, what to do\n"
-    "  --check                         print what is wrong with each file: FILE:LINE: KIND: text\n"
+    "  --check                         print what is wrong with each file: FILE:LINE: KIND: text;\n"
+    "                                  what has the same cause is told once\n"
+    "  --each                          tell each finding\n"
+    "  --summary                       print a line for each file instead, with tabs: captions,\n"
+    "                                  times, findings, fastest reading, longest row, most rows\n"
+    "  --limit NAME=VALUE              ask for more than the standard does; the names are\n"
+    "                                  reading-rate (characters a second, at most), shortest,\n"
+    "                                  longest (frames on the screen), gap (frames between\n"
+    "                                  two captions), row-length, rows (at most), upper-rows\n"
+    "                                  (how many of rows 5 to 11 may be used; 0)\n"
+    "  @RULES                          take the options in the file RULES, one a line\n"
     "  --without KIND,...              leave out kinds of findings; the kinds are\n";
 
 constexpr const char *kUsageBehindKinds =
@@ -39,7 +50,20 @@ constexpr const char *kUsageBehindKinds =
     "wrong usage.\n";
 
 /// Beyond the characters, so that getopt_long tells these from one-letter options.
-enum Found { form = 256, clock, outputFolder, force, explain, check, without, json, version };
+enum Found {
+    form = 256,
+    clock,
+    outputFolder,
+    force,
+    explain,
+    check,
+    each,
+    summary,
+    limit,
+    without,
+    json,
+    version
+};
 
 constexpr auto kOptions = std::to_array<option>({
     {"form", required_argument, nullptr, form},
@@ -48,6 +72,9 @@ constexpr auto kOptions = std::to_array<option>({
     {"force", no_argument, nullptr, force},
     {"explain", no_argument, nullptr, explain},
     {"check", no_argument, nullptr, check},
+    {"each", no_argument, nullptr, each},
+    {"summary", no_argument, nullptr, summary},
+    {"limit", required_argument, nullptr, limit},
     {"without", required_argument, nullptr, without},
     {"json", no_argument, nullptr, json},
     {"help", no_argument, nullptr, 'h'},
@@ -140,6 +167,30 @@ std::string leaveOut(std::string_view list, FindingKinds &kinds) {
     }
 }
 
+/// Sets a limit of "NAME=VALUE". Gives what is wrong with it, or the empty text.
+std::string setLimit(std::string_view text, Limits &limits) {
+    const std::size_t equals = text.find('=');
+    const std::string_view name = text.substr(0, equals);
+    std::vector<std::string_view> names;
+    for (const LimitName &known : kLimitNames)
+        names.push_back(known.name);
+    const auto index = indexOf(name, names);
+    if (!index)
+        return "unknown limit '" + printable(name) + "'" + suggestion(name, names, "");
+    const auto limit = kLimitNames.at(*index).limit;
+    const std::string_view value = equals == std::string_view::npos ? "" : text.substr(equals + 1);
+    const bool isNumber = !value.empty() && isDigit(value.front()) &&
+                          value.find_first_not_of("0123456789.") == std::string_view::npos;
+    if (isNumber)
+        limits.*limit = Val(value);
+    else if (limit == &Limits::upperRows && equals == std::string_view::npos)
+        limits.*limit = 0;
+    else
+        return "limit '" + std::string(name) + "' needs a number, as in '" + std::string(name) +
+               "=20'";
+    return "";
+}
+
 std::string usage() {
     constexpr const char *kIndent = "                                  ";
     constexpr std::size_t kWidth = 56; // of the column behind the indent
@@ -183,8 +234,16 @@ std::string take(int found, const std::string &value, Options &options) {
             return "--explain and --check are two tasks";
         options.task = found == Found::explain ? Task::explain : Task::check;
         return "";
+    case Found::each:
+        options.rules.told = Findings::Told::each;
+        return "";
+    case Found::summary:
+        options.summary = true;
+        return "";
+    case Found::limit:
+        return setLimit(value, options.rules.limits);
     case Found::without:
-        return leaveOut(value, options.kinds);
+        return leaveOut(value, options.rules.wanted);
     default: // json
         options.json = true;
         return "";
@@ -195,8 +254,14 @@ std::string take(int found, const std::string &value, Options &options) {
 std::string contradiction(const Options &options) {
     if (options.files.empty())
         return "no file was named";
-    if (!options.kinds.all() && options.task != Task::check)
+    if (!options.rules.wanted.all() && options.task != Task::check)
         return "--without goes with --check";
+    if (options.rules.told == Findings::Told::each && options.task != Task::check)
+        return "--each goes with --check";
+    if (options.summary && options.task != Task::check)
+        return "--summary goes with --check";
+    if (options.rules.limits.isAny() && options.task != Task::check)
+        return "--limit goes with --check";
     if (options.json && options.task == Task::transcribe)
         return "--json goes with --explain or --check";
     if ((options.force || !options.outputFolder.empty()) && options.task != Task::transcribe)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "decode/data_line.h"
-#include "explain/checks/findings.h"
+#include "explain/checks/check.h"
 #include "transcript/layout.h"
 
 #include <string>
@@ -19,7 +19,8 @@ struct Options {
     std::string outputFolder{}; // empty: standard output
     bool force = false;
     bool json = false;
-    FindingKinds kinds = FindingKinds().set();
+    CheckRules rules{};
+    bool summary = false;
     std::vector<std::string> files{}; // "-" is standard input
 
     /// When not empty, all there is to do: print this and end with exitStatus.

@@ -3,9 +3,11 @@
 #include "command/input.h"
 #include "explain/checks/check.h"
 #include "explain/reports/report.h"
+#include "explain/reports/summary_report.h"
 #include "framework/files/disk.h"
 #include "framework/text/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <unistd.h>
 
@@ -44,9 +46,10 @@ void explainWith(const Place &place, const Options &options) {
     Input input(place.path);
     const std::string_view text = input.all();
     const std::string shown = shownName(place.path);
-    FindingKinds ofFile = options.kinds;
-    ofFile.reset(static_cast<std::size_t>(FindingKind::digits)); // they are the line's own
-    ofFile.reset(static_cast<std::size_t>(FindingKind::altered));
+    FindingKinds ofFile = options.rules.wanted;
+    for (const FindingKind kind : {FindingKind::digits, FindingKind::altered,     // the line's own
+                                   FindingKind::neverErased, FindingKind::empty}) // the film's
+        ofFile.reset(static_cast<std::size_t>(kind));
     const std::vector<Finding> findings = check(text, ofFile);
     Explainer explainer(options.clock, findings);
     Printer<Report> printer;
@@ -72,18 +75,34 @@ void explainWith(const Place &place, const Options &options) {
     printer.print();
 }
 
+CheckResult checkInput(Input &input, const CheckRules &rules) {
+    Check check(rules);
+    const std::string beginning(input.beginning());
+    const std::string header(input.nextLine());
+    if (check.begin(beginning, header, std::max<std::size_t>(input.lineNumber(), 1))) {
+        LineTaker taker;
+        for (auto line = input.nextLine(); !line.empty(); line = input.nextLine())
+            check.take(taker.take(line, input.lineNumber()));
+    }
+    return check.finish();
+}
+
 template <class Report>
 bool checkWith(const std::string &path, const Options &options) {
     Input input(path);
     const std::string shown = shownName(path);
-    const std::vector<Finding> findings = check(input.all(), options.kinds);
+    const CheckResult result = checkInput(input, options.rules);
     Printer<Report> printer;
-    for (const Finding &finding : findings) {
-        add(printer.report(), shown, finding);
-        printer.printMuch();
+    if (options.summary) {
+        addSummary(printer.report(), shown, result);
+    } else {
+        for (const Finding &finding : result.findings) {
+            add(printer.report(), shown, finding);
+            printer.printMuch();
+        }
     }
     printer.print();
-    return findings.empty();
+    return result.findings.empty();
 }
 
 } // namespace
@@ -104,6 +123,12 @@ void explainFile(const Place &place, const Options &options) {
         explainWith<JsonWriter>(place, options);
     else
         explainWith<TextReport>(place, options);
+}
+
+void printSummaryHead() {
+    Printer<TextReport> printer;
+    addSummaryHead(printer.report());
+    printer.print();
 }
 
 bool checkFile(const std::string &path, const Options &options) {

@@ -18,7 +18,11 @@ Place placeOf(const std::string &argument);
 /// Prints explanations of the lines of a file, or of one of them. Throws Problem and IOException.
 void explainFile(const Place &place, const Options &options);
 
-/// Prints the findings on a file. False when there are some. Throws Problem and IOException.
+/// Prints the names of the columns of summaries.
+void printSummaryHead();
+
+/// Prints the findings on a file, or its summary. False when there are findings. Throws Problem and
+/// IOException.
 bool checkFile(const std::string &path, const Options &options);
 
 } // namespace norvane

@@ -1,4 +1,4 @@
-#include "explain/captions/film_decoder.h"
+#include "explain/checks/check.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -189,6 +189,86 @@ TEST(Decoder, ShowsWhatAViewerSees) {
         {"RCL 1470 Bo th EOC zz EDM", "CC1 pop-on 4@2-6@2 15,1 Both | CC1 pop-on - 15,5 zz"}};
     for (const Row &row : rows) {
         EXPECT_EQ(captionsIn(row.words), row.captions) << row.words;
+    }
+}
+
+struct CheckRow {
+    std::string words;
+    std::string kinds;
+    std::string limit{};
+    double value = 0;
+};
+
+/// The kinds of findings, each with how often, by cause.
+std::string kindsIn(const CheckRow &row) {
+    CheckRules rules;
+    for (const FindingKind kind : {FindingKind::parity, FindingKind::digits, FindingKind::altered})
+        rules.wanted.reset(static_cast<std::size_t>(kind));
+    for (const LimitName &name : kLimitNames) {
+        if (name.name == row.limit)
+            rules.limits.*name.limit = row.value;
+    }
+    Check check(rules);
+    const std::string film = filmOf(row.words);
+    SccReader reader(film);
+    check.begin(film, reader.header(), reader.headerNumber());
+    while (const SccLine *line = reader.next())
+        check.take(*line);
+    std::string kinds;
+    for (const Finding &finding : check.finish().findings) {
+        kinds += (kinds.empty() ? "" : " ") + std::string(infoOf(finding.kind).name) + "@" +
+                 std::to_string(finding.line) +
+                 (finding.count > 1 ? "x" + std::to_string(finding.count) : "");
+    }
+    return kinds;
+}
+
+TEST(Check, FindsWhatIsWrongWithCaptions) {
+    const CheckRow rows[] = {
+        // Each kind, and what just misses it.
+        {"RCL 1470 Hi EOC @30 EDM", ""},
+        {"RCL ENM EDM", "empty@1"},
+        {"RCL 1470 Hi EOC @60 RCL 1470 Hi ENM 1470 Yo EOC @90 EDM", "never-shown@3"},
+        {"RCL 1470 Hi EOC @60 RCL 1470 Hi 1470 Yo EOC @90 EDM", ""},
+        {"RCL 1470 Hi EOC @60 RCL 1470 Hi @90 EDM", "never-shown@3"},
+        {"RCL 1470 Hi EOC @5 EDM", "never-shown@2"},
+        {"RCL 1470 Hi EOC @6 EDM", ""},
+        {"RCL 1470 Hi EOC", "never-erased@2"},
+        {"RCL 1340 1 1360 2 1440 3 1460 4 EOC @30 EDM", ""},
+        {"RCL 1040 1 1340 2 1360 3 1440 4 1460 5 EOC @30 EDM", "rows@2"},
+        {"RU3 CR 1160 Hi @30 EDM", "rows@2"},
+        {"RU3 CR 1240 Hi @30 EDM", ""},
+        {"RU2 CR 1160 Hi @30 EDM", ""},
+        {"RCL 1470 Hi EOC @2591999 EDM", ""},
+        {"RCL 1470 Hi EOC @2592000 EDM", "hours@3"},
+        {"RCL 1470 Hi EOC @30 EDM @30 EDM", "twice@4"},
+        {"RCL 1470 Hi EOC @30 EDM @31 EDM", ""},
+        {"RCL 147c 12345678 EOC @30 EDM", ""},
+        {"RCL 147c 12345678_9 EOC @30 RCL 147c 12345678_9 EOC @60 EDM", "columns@2x2"},
+        {"RCL 1470 Hi EOC @30 EDM RTD RU3", "text-mode@3"},
+        // Only behind the last line it is known what is usual.
+        {"RCL RCL 1470 1470 Hi EOC @30 EDM EDM", "single@2"},
+        {"RCL 1470 Hi EOC EOC @30 EDM", ""},
+        {"RCL RCL 1470 1470 Hi EOC @6 EOC EDM EDM @30 ENM ENM", "never-shown@2"},
+        // Limits, on both of their sides: Hello! is seen for 30 frames.
+        {"RCL 1470 Hello! EOC @35 EDM", "", "shortest", 30},
+        {"RCL 1470 Hello! EOC @35 EDM", "shortest@2", "shortest", 31},
+        {"RCL 1470 Hello! EOC @35 EDM", "", "longest", 30},
+        {"RCL 1470 Hello! EOC @35 EDM", "longest@2", "longest", 29},
+        {"RCL 1470 Hello! EOC @35 EDM", "", "reading-rate", 6},
+        {"RCL 1470 Hello! EOC @36 RCL 1470 Hello! EOC @71 EDM", "reading-rate@3", "reading-rate",
+         5.9},
+        {"RCL 1470 Hi EOC @30 RCL ENM 1470 Yo EDM 0000 EOC @60 EDM", "", "gap", 2},
+        {"RCL 1470 Hi EOC @30 RCL ENM 1470 Yo EDM EOC @60 EDM", "gap@3", "gap", 2},
+        {"RCL 1470 Hello! EOC @35 EDM", "", "row-length", 6},
+        {"RCL 1470 Hello! EOC @35 EDM", "row-length@2", "row-length", 5},
+        {"RCL 1450 Hi 1470 Yo EOC @35 EDM", "", "rows", 2},
+        {"RCL 1450 Hi 1470 Yo EOC @35 EDM", "rows@2", "rows", 1},
+        {"RCL 1260 Hi 1340 Yo EOC @35 EDM", "", "upper-rows", 0},
+        {"RCL 1540 Hi EOC @35 EDM", "upper-rows@2", "upper-rows", 0},
+    };
+    for (const CheckRow &row : rows) {
+        EXPECT_EQ(kindsIn(row), row.kinds) << row.words << " " << row.limit << row.value;
     }
 }
 

@@ -61,6 +61,7 @@ class CaptionDecoder {
     int row_ = kScreenRows - 1;
     int column_ = 0;
     bool isFull_ = false; // column 32 was just written
+    int beyond_ = 0;      // how often since then
     Style style_{};
     Style rowStyle_{}; // of the preamble
 };

@@ -155,8 +155,9 @@ void CaptionDecoder::put(std::uint16_t character, const Style &style, const Mome
         else if ((printing & bit) != 0)
             shown_.beforeChange(memory, row_, printing & ~bit, *mode_, moment);
     }
+    beyond_ = isFull_ ? beyond_ + 1 : 0;
     if (isFull_)
-        memory.countBeyond(row_);
+        memory.setBeyond(row_, beyond_);
     memory.put(row_, column_, {moment, character, style});
     isFull_ = column_ == kLastColumn;
     column_ = std::min(column_ + 1, kLastColumn);

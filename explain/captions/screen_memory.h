@@ -3,6 +3,7 @@
 #include "explain/captions/caption.h"
 #include "explain/standard/codes.h"
 
+#include <algorithm>
 #include <array>
 
 namespace norvane {
@@ -37,7 +38,9 @@ class ScreenMemory {
         fresh_ |= RowSet{shown != 0} << row;
     }
     void erase(int row, ColumnSet columns);
-    void countBeyond(int row) { ++beyond_[index(row)]; }
+    void setBeyond(int row, int columns) {
+        beyond_[index(row)] = std::max(beyond_[index(row)], columns);
+    }
     void clearRow(int row);
     void clear();
 

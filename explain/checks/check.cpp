@@ -1,11 +1,8 @@
 #include "explain/checks/check.h"
 
 #include "decode/caption.h"
-#include "explain/checks/check_codes.h"
-#include "explain/checks/check_timecodes.h"
 #include "explain/checks/refusal_help.h"
 #include "explain/standard/scc_header.h"
-#include "explain/walk/entry_remarks.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
@@ -13,39 +10,6 @@
 namespace norvane {
 
 namespace {
-
-/// What the transcript leaves out of a line without a word, or why it cannot have the line.
-void lookAtEntry(const SccLine &line, const LineWalk &walk, Findings &findings) {
-    constexpr std::size_t kFirstTab = 1;
-    const std::size_t read = line.data.timecode.size() + kFirstTab + line.data.hexText.size();
-    if (read < line.text.size()) {
-        findings.add(line.number, FindingKind::tab,
-                     "What stands behind the second tab, " +
-                         startInQuotes(line.text.substr(read + 1)) +
-                         ", is not read: put a blank in the place of that tab.");
-    }
-    if (walk.entry())
-        return;
-    try { // the decode knows the reason
-        std::string caption;
-        appendCaption(caption, line.data.hexText);
-    } catch (const OutOfBoundsException &failure) {
-        findings.add(line.number, FindingKind::word, noEntry(failure, line.data, Clock::scc));
-    }
-}
-
-/// Where the transcript of a line is not what its words say, though they are sound: digits that
-/// stay, and words that the chain alters.
-void lookAtRemarks(const SccLine &line, const LineWalk &walk, Findings &findings) {
-    std::vector<EntryRemark> remarks;
-    remarkOn(line, walk, false, remarks);
-    for (EntryRemark &remark : remarks) {
-        findings.add(line.number,
-                     remark.kind == EntryRemark::Kind::digits ? FindingKind::digits
-                                                              : FindingKind::altered,
-                     std::move(remark.text));
-    }
-}
 
 /// What is wrong with the first line; the empty text when nothing is.
 std::string headerFault(std::string_view header) {
@@ -62,42 +26,125 @@ std::string headerFault(std::string_view header) {
            ", by which programs know the format: correct it.";
 }
 
+/// Why a line has no entry, which the decode knows.
+void lookAtLostEntry(const SccLine &line, Findings &findings) {
+    try {
+        std::string caption;
+        appendCaption(caption, line.data.hexText);
+    } catch (const OutOfBoundsException &failure) {
+        findings.add(line.number, FindingKind::word, 1,
+                     [&] { return findingOn(line, noEntry(failure, line.data, Clock::scc)); });
+    }
+}
+
 } // namespace
 
-std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
-    Findings findings(wanted);
-    SccReader reader(text);
-    const std::string foreign = foreignFormat(text);
-    const std::string fault = foreign.empty() ? headerFault(reader.header()) : foreign;
+Check::Check(const CheckRules &rules)
+    : findings_(rules.wanted, rules.told), captions_(rules.limits),
+      decoder_([this](const Caption &caption) {
+          captions_.look(caption, dropFrame_.value_or(false), findings_);
+      }) {}
+
+bool Check::begin(std::string_view beginning, std::string_view header, std::size_t headerNumber) {
+    headerNumber_ = headerNumber;
+    const std::string foreign = foreignFormat(beginning);
+    const std::string fault = foreign.empty() ? headerFault(header) : foreign;
+    const auto tell = [&](FindingKind kind, const std::string &text) {
+        findings_.add(headerNumber, kind, 0, [&text] {
+            Finding finding;
+            finding.text = text;
+            return finding;
+        });
+    };
+    if (withoutByteOrderMark(header).size() < header.size() && foreign.empty())
+        tell(FindingKind::bom, "The file begins with a byte order mark, which not every program "
+                               "passes over: save it without.");
     if (!fault.empty())
-        findings.add(reader.headerNumber(), FindingKind::header, fault);
-    if (!findings.list().empty() && !foreign.empty())
-        return findings.list(); // all else would follow from that
-    TimecodeCheck timecodes;
-    CodeCheck codes(text);
-    ColumnCheck columns;
-    LineWalk walk;
-    while (const SccLine *line = reader.next()) {
-        if (line->refusal) {
-            findings.add(line->number,
-                         *line->refusal == Refusal::noTab ? FindingKind::tab
-                                                          : FindingKind::timecode,
-                         refusalHelp(line->text));
-            continue;
-        }
-        timecodes.look(*line, findings);
-        codes.look(*line, findings);
-        columns.look(*line, findings);
-        walk.walk(*line);
-        lookAtEntry(*line, walk, findings);
-        if (findings.wants(FindingKind::digits) || findings.wants(FindingKind::altered))
-            lookAtRemarks(*line, walk, findings);
+        tell(FindingKind::header, fault);
+    needsCaptions_ = !header.empty() && foreign.empty();
+    return foreign.empty() || !findings_.wants(FindingKind::header); // all else follows from that
+}
+
+void Check::take(const SccLine &line) {
+    if (line.refusal) {
+        needsCaptions_ = false;
+        findings_.add(line.number,
+                      *line.refusal == Refusal::noTab ? FindingKind::tab : FindingKind::timecode, 0,
+                      [&line] { return findingOn(line, refusalHelp(line.text)); });
+        return;
     }
-    codes.tellSingles(findings);
-    std::vector<Finding> list = findings.list();
-    std::stable_sort(list.begin(), list.end(),
-                     [](const Finding &a, const Finding &b) { return a.line < b.line; });
-    return list;
+    ++lines_;
+    if (!dropFrame_ && line.timecode)
+        dropFrame_ = line.timecode->dropFrame;
+    timecodes_.look(line, findings_);
+    codes_.look(line, findings_);
+    decoder_.take(line);
+    lookAtEntry(line);
+}
+
+/// What the transcript leaves out of a line without a word, or why it cannot have the line.
+void Check::lookAtEntry(const SccLine &line) {
+    constexpr std::size_t kFirstTab = 1;
+    const std::size_t read = line.data.timecode.size() + kFirstTab + line.data.hexText.size();
+    if (read < line.text.size()) {
+        findings_.add(line.number, FindingKind::tab, 1, [&] {
+            return findingOn(line, "What stands behind the second tab, " +
+                                       startInQuotes(line.text.substr(read + 1)) +
+                                       ", is not read: put a blank in the place of that tab.");
+        });
+    }
+    walk_.walk(line);
+    if (!walk_.entry())
+        lookAtLostEntry(line, findings_);
+    if (findings_.wants(FindingKind::digits) || findings_.wants(FindingKind::altered))
+        lookAtRemarks(line);
+}
+
+/// Where the transcript of a line is not what its words say, though they are sound: digits that
+/// stay, and words that the chain alters.
+void Check::lookAtRemarks(const SccLine &line) {
+    constexpr std::size_t kMostWords = 8;
+    remarks_.clear();
+    remarkOn(line, walk_, false, remarks_);
+    for (EntryRemark &remark : remarks_) {
+        const FindingKind kind =
+            remark.kind == EntryRemark::Kind::digits ? FindingKind::digits : FindingKind::altered;
+        findings_.add(line.number, kind, remark.cause, [&] {
+            std::vector<std::string> words;
+            for (std::size_t i = 0; i < std::min(remark.count, kMostWords); ++i)
+                words.emplace_back(line.words[remark.word + i].digits);
+            return findingOn(line, std::move(remark.text), remark.word, std::move(words));
+        });
+    }
+}
+
+CheckResult Check::finish() {
+    codes_.finish(findings_);
+    decoder_.finish();
+    FilmSummary summary = captions_.summary();
+    summary.lines = lines_;
+    summary.dropFrame = dropFrame_.value_or(false);
+    if (summary.captions == 0 && needsCaptions_) {
+        findings_.add(headerNumber_, FindingKind::empty, 0, [] {
+            Finding finding;
+            finding.text = "No caption is ever shown: ask for the file again.";
+            return finding;
+        });
+    }
+    return {findings_.take(), findings_.counts(), summary};
+}
+
+std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
+    CheckRules rules;
+    rules.wanted = wanted;
+    rules.told = Findings::Told::each;
+    Check check(rules);
+    SccReader reader(text);
+    if (check.begin(text, reader.header(), reader.headerNumber())) {
+        while (const SccLine *line = reader.next())
+            check.take(*line);
+    }
+    return check.finish().findings;
 }
 
 } // namespace norvane

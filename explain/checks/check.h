@@ -1,10 +1,60 @@
 #pragma once
 
-#include "explain/checks/findings.h"
+#include "explain/captions/film_decoder.h"
+#include "explain/checks/check_captions.h"
+#include "explain/checks/check_codes.h"
+#include "explain/checks/check_timecodes.h"
+#include "explain/walk/entry_remarks.h"
 
 namespace norvane {
 
-/// The findings on a whole file, in the order of its lines. Any text is taken.
+/// What is looked for.
+struct CheckRules {
+    FindingKinds wanted = FindingKinds().set();
+    Findings::Told told = Findings::Told::byCause;
+    Limits limits{};
+};
+
+struct CheckResult {
+    std::vector<Finding> findings{};                        // in the order of their lines
+    std::array<std::size_t, kFindingKinds.size()> counts{}; // by kind, those told as one counted
+    FilmSummary summary{};
+};
+
+/// Checks a film as it is read. The memory does not grow with it but for what is told.
+class Check {
+  public:
+    explicit Check(const CheckRules &rules);
+    Check(const Check &) = delete;
+    Check &operator=(const Check &) = delete;
+
+    /// Takes the beginning of the text, of which the first two lines are enough, and its first line
+    /// that is not empty. False when the file is of another format, so that nothing else needs a
+    /// look.
+    bool begin(std::string_view beginning, std::string_view header, std::size_t headerNumber);
+
+    void take(const SccLine &line);
+
+    CheckResult finish();
+
+  private:
+    void lookAtEntry(const SccLine &line);
+    void lookAtRemarks(const SccLine &line);
+
+    Findings findings_;
+    TimecodeCheck timecodes_{};
+    CodeCheck codes_{};
+    CaptionCheck captions_;
+    FilmDecoder decoder_;
+    LineWalk walk_{};
+    std::vector<EntryRemark> remarks_{};
+    std::size_t headerNumber_ = 1;
+    std::size_t lines_ = 0;
+    std::optional<bool> dropFrame_{};
+    bool needsCaptions_ = true; // nothing told already says why there are none
+};
+
+/// Each finding on a whole file. Any text is taken.
 std::vector<Finding> check(std::string_view text, const FindingKinds &wanted);
 
 } // namespace norvane

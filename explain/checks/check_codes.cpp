@@ -9,14 +9,14 @@ namespace norvane {
 
 namespace {
 
-/// The words of a line that are so, each once, as `textOf` has them.
-template <class Is, class TextOf>
-ShortList wordsThat(const SccLine &line, Is is, TextOf textOf) {
-    ShortList words;
+/// The words of a line that are so, each once.
+template <class Is>
+std::vector<const SccWord *> wordsThat(const SccLine &line, Is is) {
+    std::vector<const SccWord *> words;
     std::unordered_set<std::string_view> seen;
     for (const SccWord &word : line.words) {
         if (is(word) && seen.insert(word.digits).second)
-            words.add(textOf(word));
+            words.push_back(&word);
     }
     return words;
 }
@@ -25,177 +25,233 @@ std::string digitsOf(const SccWord &word) {
     return std::string(word.digits);
 }
 
+/// A finding on words of a line, of which there is one at least: `text` comes behind them.
+template <class TextOf>
+Finding findingOnWords(const SccLine &line, const std::vector<const SccWord *> &words,
+                       const std::string &before, TextOf textOf, const std::string &behind) {
+    constexpr std::size_t kMost = 8;
+    ShortList list;
+    std::vector<std::string> digits;
+    for (const SccWord *word : words) {
+        list.add(textOf(*word));
+        if (digits.size() < kMost)
+            digits.push_back(digitsOf(*word));
+    }
+    const auto first = static_cast<std::size_t>(words.front() - line.words.data());
+    return findingOn(line, before + list.text() + behind, first, std::move(digits));
+}
+
+Finding malformedWords(const SccLine &line) {
+    const auto words = wordsThat(line, [](const SccWord &word) { return !word.isCode; });
+    return findingOnWords(
+        line, words, "", [](const SccWord &word) { return startInQuotes(word.digits); },
+        std::string(words.size() == 1 ? " is no word" : " are no words") +
+            " of four hex digits: correct the line.");
+}
+
+Finding wrongParity(const SccLine &line) {
+    return findingOnWords(
+        line, wordsThat(line, [](const SccWord &word) { return word.isCode && !word.parity; }),
+        "Wrong parity: ",
+        [](const SccWord &word) {
+            return digitsOf(word) + " (" + wordOf(word.meaning->withParity) + " is right)";
+        },
+        ". Correct the line, or ask for a new export.");
+}
+
+bool isUnknown(const SccWord &word) {
+    return word.isCode && word.meaning->kind == CodeKind::none;
+}
+
+Finding unknownCodes(const SccLine &line) {
+    const auto words = wordsThat(line, isUnknown);
+    return findingOnWords(line, words, "", digitsOf,
+                          std::string(words.size() == 1 ? ": no code" : ": no codes") +
+                              " of CEA-608. Correct or delete.");
+}
+
+Finding otherField(const SccLine &line) {
+    return findingOnWords(
+        line, wordsThat(line, [](const SccWord &word) { return word.meaning->secondField; }), "",
+        digitsOf,
+        ": of field 2, while an SCC file is for field 1. Ask for a file of field 1 alone.");
+}
+
+/// A base row of roll-up that leaves no room for the rows above it; 0 for any other word.
+int highBaseRow(const SccWord &word) {
+    if (word.meaning->kind != CodeKind::preamble)
+        return 0;
+    const int row = rowOfPreamble(word.meaning->code);
+    return row < rowsOf(word.mode) ? row : 0;
+}
+
+Finding highBase(const SccLine &line) {
+    const auto words = wordsThat(line, [](const SccWord &word) { return highBaseRow(word) != 0; });
+    const std::string row = std::to_string(highBaseRow(*words.front()));
+    const std::string rows = std::to_string(rowsOf(words.front()->mode));
+    return findingOnWords(line, {words.front()}, "", digitsOf,
+                          " makes row " + row + " the base of a roll-up of " + rows +
+                              " rows, which do not fit there: take row " + rows +
+                              " or one below it.");
+}
+
+bool isTextModeCode(const SccWord &word) {
+    return word.meaning->code == code::kTr || word.meaning->code == code::kRtd;
+}
+
+/// Whether text mode begins and ends again without any text.
+bool isLoneTextMode(const SccLine &line) {
+    for (std::size_t i = 0; i < line.words.size(); ++i) {
+        const SccWord &word = line.words[i];
+        if (isText(word.service) && (!isTextModeCode(word) || i + 1 == line.words.size()))
+            return false;
+    }
+    return true;
+}
+
 void lookAtServices(const SccLine &line, Findings &findings) {
-    std::array<long, kServiceNames.size()> words{};
-    std::vector<Service> services; // in the order in which they come
-    for (const SccWord &word : line.words) {
-        if (words[static_cast<std::size_t>(word.service)]++ == 0)
-            services.push_back(word.service);
+    std::array<std::size_t, kServiceNames.size()> count{};
+    std::array<std::size_t, kServiceNames.size()> first{};
+    for (std::size_t i = 0; i < line.words.size(); ++i) {
+        const auto service = static_cast<std::size_t>(line.words[i].service);
+        if (count[service]++ == 0)
+            first[service] = i;
     }
-    for (const Service service : services) {
-        const long count = words[static_cast<std::size_t>(service)];
-        const std::string belong =
-            counted(count, "word").append(count == 1 ? " belongs to " : " belong to ") +
-            std::string(nameOf(service));
-        if (service == Service::none || service == Service::cc1 || service == Service::cc3)
+    for (std::size_t i = 1; i < count.size(); ++i) {
+        const auto service = static_cast<Service>(i);
+        if (count[i] == 0 || service == Service::cc1 || service == Service::cc3)
             continue;
-        if (channelOf(service) % 2 == 1) {
-            findings.add(line.number, FindingKind::channel,
-                         belong + ", a second channel, whose codes stay as digits: ask for a file "
-                                  "of the first channel alone.");
-        } else {
-            findings.add(line.number, FindingKind::textMode,
-                         belong + ", the text mode, which is beside the captions: ask for a file "
-                                  "of captions alone.");
-        }
-    }
-    const auto otherField = wordsThat(
-        line, [](const SccWord &word) { return word.meaning->secondField; }, digitsOf);
-    if (!otherField.empty()) {
-        findings.add(line.number, FindingKind::field,
-                     otherField.text() +
-                         ": of field 2, while an SCC file is for field 1. Ask for a file of field "
-                         "1 alone.");
+        const bool isChannel = channelOf(service) % 2 == 1;
+        const bool isLone = !isChannel && isLoneTextMode(line);
+        const auto make = [&] {
+            const std::string digits = digitsOf(line.words[first[i]]);
+            const std::string belong = counted(static_cast<long>(count[i]), "word") +
+                                       (count[i] == 1 ? " belongs to " : " belong to ") +
+                                       std::string(nameOf(service));
+            return findingOn(
+                line,
+                isChannel ? belong + ", a second channel, whose codes stay as digits: ask for a "
+                                     "file of the first channel alone."
+                : isLone
+                    ? digits + " begins the text mode, and what follows ends it before any text "
+                               "is sent: delete it."
+                    : belong + ", the text mode, which is beside the captions: ask for a file of "
+                               "captions alone.",
+                first[i], {digits});
+        };
+        findings.add(line.number, isChannel ? FindingKind::channel : FindingKind::textMode,
+                     static_cast<std::uint32_t>(2 * i + (isLone ? 1 : 0)), make);
     }
 }
 
 } // namespace
 
-CodeCheck::CodeCheck(std::string_view text) {
-    SccReader reader(text);
-    long words = 0;
-    long wrong = 0;
-    long codes = 0;
-    long repetitions = 0;
-    while (const SccLine *line = reader.next()) {
-        for (const SccWord &word : line->words) {
-            words += word.isCode ? 1 : 0;
-            wrong += word.isCode && !word.parity ? 1 : 0;
-            if (isSentTwice(*word.meaning))
-                ++(word.repeats ? repetitions : codes);
+CodeCheck::Marks CodeCheck::marksOf(const SccLine &line) {
+    Marks marks;
+    std::size_t wrong = 0;
+    std::size_t malformed = 0;
+    bool isSingle = false; // the word before, unless this one repeats it
+    for (const SccWord &word : line.words) {
+        malformed += word.isCode ? 0 : 1;
+        wrong += word.isCode && !word.parity ? 1 : 0;
+        marks.single |= isSingle && !word.repeats;
+        isSingle = false;
+        const CodeMeaning &meaning = *word.meaning;
+        marks.otherService |= word.service > Service::cc1;
+        if (meaning.kind == CodeKind::text)
+            continue;
+        marks.unknown |= isUnknown(word);
+        marks.secondField |= meaning.secondField;
+        marks.highBase |= highBaseRow(word) != 0;
+        if (isSentTwice(meaning)) {
+            ++(word.repeats ? repetitions_ : codes_);
+            isSingle = !word.repeats;
         }
     }
-    isDoubled_ = 2 * repetitions > codes;
-    hasParity_ = 2 * wrong <= words;
+    marks.single |= isSingle;
+    marks.malformed = malformed != 0;
+    marks.wrongParity = wrong != 0;
+    words_ += line.words.size() - malformed;
+    wrongWords_ += wrong;
+    return marks;
 }
 
 void CodeCheck::look(const SccLine &line, Findings &findings) {
-    const auto malformed = wordsThat(
-        line, [](const SccWord &word) { return !word.isCode; },
-        [](const SccWord &word) { return startInQuotes(word.digits); });
-    if (!malformed.empty()) {
-        findings.add(line.number, FindingKind::word,
-                     malformed.text() + (malformed.count() == 1 ? " is no word" : " are no words") +
-                         " of four hex digits: correct the line.");
+    const Marks marks = marksOf(line);
+    const auto add = [&](FindingKind kind, std::uint32_t cause, auto make) {
+        findings.add(line.number, kind, cause, [&] { return make(line); });
+    };
+    if (marks.malformed)
+        add(FindingKind::word, 0, malformedWords);
+    if (marks.wrongParity)
+        add(FindingKind::parity, 0, wrongParity);
+    if (marks.unknown) {
+        const auto first = std::find_if(line.words.begin(), line.words.end(), isUnknown);
+        add(FindingKind::code, first->code, unknownCodes);
     }
-    lookAtParity(line, findings);
-    const auto unknown = wordsThat(
-        line,
-        [](const SccWord &word) { return word.isCode && word.meaning->kind == CodeKind::none; },
-        digitsOf);
-    if (!unknown.empty()) {
-        findings.add(line.number, FindingKind::code,
-                     unknown.text() + (unknown.count() == 1 ? ": no code" : ": no codes") +
-                         " of CEA-608. Correct or delete.");
-    }
-    lookAtServices(line, findings);
-    lookAtSingles(line, findings);
+    if (marks.otherService)
+        lookAtServices(line, findings);
+    if (marks.secondField)
+        add(FindingKind::field, 0, otherField);
+    if (marks.highBase)
+        add(FindingKind::rows, 1, highBase);
+    lookAtSingles(line, marks.single, findings);
 }
 
-void CodeCheck::lookAtParity(const SccLine &line, Findings &findings) {
-    const auto wrong = wordsThat(
-        line, [](const SccWord &word) { return word.isCode && !word.parity; },
-        [](const SccWord &word) {
-            return digitsOf(word) + " (" + wordOf(word.meaning->withParity) + " is right)";
-        });
-    if (wrong.empty() || parityTold_)
-        return;
-    if (!hasParity_) {
-        parityTold_ = true; // once for all lines
-        findings.add(line.number, FindingKind::parity,
-                     "Here and in most of the file the parity is wrong, as when it was written "
-                     "without parity bits: ask for a new export.");
-        return;
+void CodeCheck::lookAtSingles(const SccLine &line, bool hasSome, Findings &findings) {
+    constexpr std::size_t kMost = 4;
+    if (singles_.count > 0 && !line.words.empty() && line.words[0].repeats) {
+        if (singles_.count-- <= kMost) {
+            singles_.codes.pop_back();
+            singles_.frames.pop_back();
+        }
     }
-    findings.add(line.number, FindingKind::parity,
-                 "Wrong parity: " + wrong.text() + ". Correct the line, or ask for a new export.");
-}
-
-void CodeCheck::lookAtSingles(const SccLine &line, Findings &findings) {
-    if (!line.words.empty() && line.words[0].repeats && !singles_.empty())
-        singles_.dropLast();
     tellSingles(findings);
-    singlesLine_ = line.number;
+    if (!hasSome)
+        return;
+    singles_.line = line.number;
+    singles_.timecode = line.data.timecode;
     for (std::size_t i = 0; i < line.words.size(); ++i) {
         const SccWord &word = line.words[i];
         const bool goesOn = i + 1 < line.words.size() && line.words[i + 1].repeats;
-        if (isSentTwice(*word.meaning) && !word.repeats && !goesOn)
-            singles_.add(digitsOf(word));
+        if (isSentTwice(*word.meaning) && !word.repeats && !goesOn && singles_.count++ < kMost) {
+            singles_.codes.push_back(word.code);
+            singles_.frames.push_back(i);
+        }
     }
 }
 
 void CodeCheck::tellSingles(Findings &findings) {
-    if (isDoubled_ && !singles_.empty()) {
-        findings.add(singlesLine_, FindingKind::single,
-                     singles_.text() +
-                         ": sent once, while the file sends its codes twice. Correct the line.");
+    if (singles_.count > 0) {
+        findings.add(singles_.line, FindingKind::single, 0, [this] {
+            ShortList list;
+            Finding finding;
+            for (const std::uint16_t code : singles_.codes) {
+                list.add(wordOf(code));
+                finding.words.push_back(wordOf(code));
+            }
+            for (std::size_t i = singles_.codes.size(); i < singles_.count; ++i)
+                list.add("");
+            finding.text = list.text() +
+                           ": sent once, while the file sends its codes twice. Correct the line.";
+            finding.timecode = singles_.timecode;
+            finding.frame = singles_.frames.front();
+            return finding;
+        });
     }
-    singles_.clear();
+    singles_.count = 0;
+    singles_.codes.clear();
+    singles_.frames.clear();
 }
 
-void ColumnCheck::endRow(Row &row, std::size_t line, Findings &findings) {
-    if (row.widest > kScreenColumns) {
-        findings.add(line, FindingKind::columns,
-                     "A row of text ends in column " + std::to_string(row.widest) +
-                         ", while a screen has 32: break the row.");
-    }
-    row.widest = 0;
-}
-
-void ColumnCheck::look(const SccLine &line, Findings &findings) {
-    for (const SccWord &word : line.words) {
-        if (word.repeats || word.service == Service::none || isText(word.service))
-            continue;
-        Row &row = rows_.at(channelOf(word.service));
-        const std::uint16_t code = word.meaning->code;
-        if (word.meaning->kind == CodeKind::preamble || code == code::kCr) {
-            endRow(row, line.number, findings);
-            row.column = 0;
-        }
-        write(word, row);
-        if (isCharacters(*word.meaning))
-            row.widest = std::max(row.widest, row.column);
-    }
-    for (Row &row : rows_)
-        endRow(row, line.number, findings);
-}
-
-/// Moves the column on.
-void ColumnCheck::write(const SccWord &word, Row &row) {
-    const std::uint16_t code = word.meaning->code;
-    switch (word.meaning->kind) {
-    case CodeKind::preamble:
-        if (isIndent(code))
-            row.column = indentOf(code);
-        break;
-    case CodeKind::text:
-    case CodeKind::special:
-        row.column += word.meaning->textSize;
-        break;
-    case CodeKind::midRow:
-        row.column += 1;
-        break;
-    case CodeKind::tabOffset:
-        row.column += static_cast<long>(code & 3U);
-        break;
-    case CodeKind::control:
-        if (code == code::kBs)
-            row.column = std::max(row.column - 1, 0L);
-        else if (code == code::kFon)
-            row.column += 1;
-        break;
-    default:
-        break; // an extended character takes the place of the one before it
+void CodeCheck::finish(Findings &findings) {
+    tellSingles(findings);
+    if (2 * repetitions_ <= codes_)
+        findings.takeBack(FindingKind::single); // the file sends them once
+    if (2 * wrongWords_ > words_) {
+        findings.tellOnce(FindingKind::parity,
+                          "Here and in most of the file the parity is wrong, as when it was "
+                          "written without parity bits: ask for a new export.");
     }
 }
 

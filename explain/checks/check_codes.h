@@ -8,39 +8,41 @@ namespace norvane {
 /// Looks at the words of lines that follow one another, by CEA-608.
 class CodeCheck {
   public:
-    /// `text` is the whole file: what is unusual in it depends on what is usual in it.
-    explicit CodeCheck(std::string_view text);
-
     void look(const SccLine &line, Findings &findings);
 
-    /// To be called behind the last line.
+    /// To be called behind the last line: only now is it known what is usual in the file, and with
+    /// it what is unusual.
+    void finish(Findings &findings);
+
+  private:
+    /// What there is among the words of a line, so that a line in order costs one look.
+    struct Marks {
+        bool malformed = false;
+        bool wrongParity = false;
+        bool unknown = false;
+        bool otherService = false;
+        bool secondField = false;
+        bool highBase = false;
+        bool single = false;
+    };
+    /// Codes that were sent once, of the line before: its last may go on in the next.
+    struct Singles {
+        std::size_t line = 0;
+        std::string timecode{};
+        std::vector<std::size_t> frames{};  // the first few
+        std::vector<std::uint16_t> codes{}; // the same
+        std::size_t count = 0;
+    };
+
+    Marks marksOf(const SccLine &line);
+    void lookAtSingles(const SccLine &line, bool hasSome, Findings &findings);
     void tellSingles(Findings &findings);
 
-  private:
-    void lookAtParity(const SccLine &line, Findings &findings);
-    void lookAtSingles(const SccLine &line, Findings &findings);
-
-    bool isDoubled_ = false; // most codes are sent twice
-    bool hasParity_ = true;  // most words have it
-    bool parityTold_ = false;
-    ShortList singles_{}; // of the line before: its last code may go on in the next
-    std::size_t singlesLine_ = 0;
-};
-
-/// Follows the column at which each service writes.
-class ColumnCheck {
-  public:
-    void look(const SccLine &line, Findings &findings);
-
-  private:
-    struct Row {
-        long column = 0;
-        long widest = 0;
-    };
-    void write(const SccWord &word, Row &row);
-    static void endRow(Row &row, std::size_t line, Findings &findings);
-
-    std::array<Row, 4> rows_{};
+    std::size_t words_ = 0;
+    std::size_t wrongWords_ = 0;
+    std::size_t codes_ = 0;
+    std::size_t repetitions_ = 0;
+    Singles singles_{};
 };
 
 } // namespace norvane

@@ -1,6 +1,5 @@
 #include "explain/checks/check_timecodes.h"
 
-#include "decode/timecode.h"
 #include "framework/text/text.h"
 
 namespace norvane {
@@ -11,59 +10,102 @@ std::string textOf(const FrameTimecode &timecode) {
     return frameTimecode(timecode.count(), timecode.dropFrame);
 }
 
+std::string markOf(const FrameTimecode &timecode) {
+    return timecode.dropFrame ? "“;” (drop-frame)" : "“:” (non-drop)";
+}
+
+bool exists(const FrameTimecode &timecode) {
+    return timecode.frames < 30 && !timecode.isDropped();
+}
+
+template <class TextOf>
+void tell(const SccLine &line, FindingKind kind, Findings &findings, TextOf text) {
+    findings.add(line.number, kind, 0, [&] { return findingOn(line, text()); });
+}
+
 } // namespace
 
 void TimecodeCheck::look(const SccLine &line, Findings &findings) {
     if (!line.timecode) {
-        findings.add(line.number, FindingKind::timecodeForm,
-                     startInQuotes(line.data.timecode) +
-                         " is not of the form HH:MM:SS:FF (drop-frame: HH:MM:SS;FF): "
-                         "correct it.");
+        tell(line, FindingKind::timecodeForm, findings, [&] {
+            return startInQuotes(line.data.timecode) +
+                   " is not of the form HH:MM:SS:FF (drop-frame: HH:MM:SS;FF): correct it.";
+        });
         return;
     }
     const FrameTimecode &timecode = *line.timecode;
-    const bool exists = timecode.exists();
-    if (timecode.frames >= kFramesPerSecond) {
-        findings.add(line.number, FindingKind::frame,
-                     "There is no frame " + std::to_string(timecode.frames) +
-                         ", since a second has the frames 00 to 29: correct the timecode.");
-    } else if (!exists) {
-        findings.add(line.number, FindingKind::droppedFrame,
-                     std::string(line.data.timecode) +
-                         " does not exist: drop-frame leaves out the frames 00 and 01 of each "
-                         "minute but every tenth. Correct the timecode.");
-    }
+    lookAtFrames(line, findings);
     const Before now{timecode, line.number, static_cast<long>(line.words.size())};
     if (!first_)
         first_ = now;
-    const auto mark = [](const FrameTimecode &of) {
-        return of.dropFrame ? "“;” (drop-frame)" : "“:” (non-drop)";
-    };
     if (timecode.dropFrame != first_->timecode.dropFrame) {
-        findings.add(line.number, FindingKind::separator,
-                     std::string("The frames stand behind ") + mark(timecode) + ", and in line " +
-                         std::to_string(first_->line) + " behind " + mark(first_->timecode) +
-                         ": ask which of them is meant.");
+        tell(line, FindingKind::separator, findings, [&] {
+            return "The frames stand behind " + markOf(timecode) + ", and in line " +
+                   std::to_string(first_->line) + " behind " + markOf(first_->timecode) +
+                   ": ask which of them is meant.";
+        });
     }
-    if (!exists)
-        return; // where it lies, nobody knows
-    if (before_ && before_->timecode.dropFrame == timecode.dropFrame) {
-        const std::string place = "line " + std::to_string(before_->line);
-        const long start = before_->timecode.count();
-        const long end = start + before_->words;
-        if (timecode.count() < start) {
-            findings.add(line.number, FindingKind::order,
-                         "The timecode lies before that of " + place + ", " +
-                             textOf(before_->timecode) + ": put the lines in order.");
-        } else if (timecode.count() < end) {
-            findings.add(line.number, FindingKind::overlap,
-                         "Sending " + place + " takes until " +
-                             frameTimecode(end, timecode.dropFrame) + ", " +
-                             counted(end - timecode.count(), "frame") +
-                             " too long: move one of the lines.");
-        }
+    if (comesAgain(line)) {
+        tell(line, FindingKind::twice, findings, [&] {
+            return "The same line as line " + std::to_string(lineBeforeNumber_) +
+                   ": delete one of them.";
+        });
+    } else if (exists(timecode) && before_ && before_->timecode.dropFrame == timecode.dropFrame) {
+        lookAtOrder(line, findings);
     }
-    before_ = now;
+    lineBeforeNumber_ = line.number;
+    if (exists(timecode)) // where another lies, nobody knows
+        before_ = now;
+}
+
+void TimecodeCheck::lookAtFrames(const SccLine &line, Findings &findings) {
+    const FrameTimecode &timecode = *line.timecode;
+    if (timecode.hours >= 24) {
+        tell(line, FindingKind::hours, findings, [&] {
+            return "There is no hour " + std::to_string(timecode.hours) +
+                   ", since a day has the hours 00 to 23: correct the timecode.";
+        });
+    }
+    if (timecode.frames >= 30) {
+        tell(line, FindingKind::frame, findings, [&] {
+            return "There is no frame " + std::to_string(timecode.frames) +
+                   ", since a second has the frames 00 to 29: correct the timecode.";
+        });
+    } else if (timecode.isDropped()) {
+        tell(line, FindingKind::droppedFrame, findings, [&] {
+            return std::string(line.data.timecode) +
+                   " does not exist: drop-frame leaves out the frames 00 and 01 of each minute but "
+                   "every tenth. Correct the timecode.";
+        });
+    }
+}
+
+void TimecodeCheck::lookAtOrder(const SccLine &line, Findings &findings) const {
+    const FrameTimecode &timecode = *line.timecode;
+    const long start = before_->timecode.count();
+    const long end = start + before_->words;
+    if (timecode.count() < start) {
+        tell(line, FindingKind::order, findings, [&] {
+            return "The timecode lies before that of line " + std::to_string(before_->line) + ", " +
+                   textOf(before_->timecode) + ": put the lines in order.";
+        });
+    } else if (timecode.count() < end) {
+        tell(line, FindingKind::overlap, findings, [&] {
+            return "Sending line " + std::to_string(before_->line) + " takes until " +
+                   frameTimecode(end, timecode.dropFrame) + ", " +
+                   counted(end - timecode.count(), "frame") + " too long: move one of the lines.";
+        });
+    }
+}
+
+/// Blanks at the end make no other line.
+bool TimecodeCheck::comesAgain(const SccLine &line) {
+    std::string_view text = line.text;
+    while (text.ends_with(' '))
+        text.remove_suffix(1);
+    const bool isSame = text == lineBefore_;
+    lineBefore_ = text;
+    return isSame;
 }
 
 } // namespace norvane

@@ -1,71 +1,84 @@
 #pragma once
 
+#include "explain/checks/finding_kinds.h"
+#include "explain/standard/scc_line.h"
 #include "explain/standard/short_list.h"
 
-#include <array>
-#include <bitset>
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace norvane {
 
-/// What can be wrong with a file, or with what the transcript makes of it.
-enum class FindingKind {
-    header,
-    tab,
-    timecode,
-    timecodeForm,
-    frame,
-    droppedFrame,
-    separator,
-    order,
-    overlap,
-    word,
-    parity,
-    single,
-    channel,
-    field,
-    textMode,
-    columns,
-    code,
-    digits,
-    altered,
-};
-
-/// The names of the kinds, by which a user switches them off.
-inline constexpr auto kFindingNames = std::to_array<std::string_view>(
-    {"header", "tab", "timecode", "timecode-form", "frame", "dropped-frame", "separator", "order",
-     "overlap", "word", "parity", "single", "channel", "field", "text-mode", "columns", "code",
-     "digits", "altered"});
-
-using FindingKinds = std::bitset<kFindingNames.size()>;
-
 struct Finding {
-    std::size_t line; // of the file, from 1
-    FindingKind kind;
-    std::string text; // for the user: what is wrong, and what to do
+    std::size_t line = 0; // of the file, from 1
+    FindingKind kind{};
+    std::optional<Severity> severity{}; // where it is not that of the kind
+    std::string text{};                 // for the user: what is wrong, and what to do
+    std::string timecode{};             // of the line; empty when it has none
+    std::optional<std::size_t> frame{}; // in the line, of the first word that it concerns
+    std::vector<std::string> words{};   // that it concerns, the first few
+    std::size_t count = 1;              // how often, where findings of one cause are told as one
+    std::vector<std::size_t> lines{};   // the first of these lines, `line` among them
 };
 
-/// Collects the findings that are wanted.
+inline Severity severityOf(const Finding &finding) {
+    return finding.severity.value_or(infoOf(finding.kind).severity);
+}
+
+/// Collects the findings that are wanted: each, or one for each cause with how often it was found.
+/// Then the memory does not grow with what is found.
 class Findings {
   public:
-    explicit Findings(const FindingKinds &wanted) : wanted_(wanted) {}
+    enum class Told { each, byCause };
+
+    explicit Findings(const FindingKinds &wanted, Told told = Told::each)
+        : wanted_(wanted), told_(told) {}
 
     bool wants(FindingKind kind) const { return wanted_.test(static_cast<std::size_t>(kind)); }
-    void add(std::size_t line, FindingKind kind, std::string text) {
-        if (wants(kind))
-            list_.push_back({line, kind, std::move(text)});
+
+    /// Adds a finding on a line. Those of a kind that have the same cause come about in the same
+    /// way. `make` gives the finding, its line and kind aside, where it is told.
+    template <class Make>
+    void add(std::size_t line, FindingKind kind, std::uint32_t cause, const Make &make) {
+        if (!wants(kind) || countedAlready(line, kind, cause))
+            return;
+        Finding finding = make();
+        finding.line = line;
+        finding.kind = kind;
+        finding.lines = {line};
+        list_.push_back(std::move(finding));
     }
 
-    /// In the order in which they were added.
-    const std::vector<Finding> &list() const { return list_; }
+    /// Takes back all of a kind.
+    void takeBack(FindingKind kind);
+
+    /// Leaves one of a kind, with another text.
+    void tellOnce(FindingKind kind, const std::string &text);
+
+    /// In the order of their lines; those on one line as they were added. To be called once.
+    std::vector<Finding> take();
+
+    /// How many were added of each kind.
+    const std::array<std::size_t, kFindingKinds.size()> &counts() const { return counts_; }
 
   private:
+    bool countedAlready(std::size_t line, FindingKind kind, std::uint32_t cause);
+
     FindingKinds wanted_;
-    std::vector<Finding> list_;
+    Told told_;
+    std::vector<Finding> list_{};
+    std::array<std::size_t, kFindingKinds.size()> counts_{};
+    std::unordered_map<std::uint64_t, std::size_t> byCause_{}; // places in the list
 };
+
+/// A finding on words of a line: `first` is the place of the first of them in the line.
+Finding findingOn(const SccLine &line, std::string text, std::size_t first,
+                  std::vector<std::string> words);
+
+/// A finding on a line as a whole.
+Finding findingOn(const SccLine &line, std::string text);
 
 } // namespace norvane

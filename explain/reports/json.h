@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/text/text.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -24,6 +26,7 @@ class JsonWriter {
     void add(std::size_t number) { addBare(std::to_string(number)); }
     void add(long number) { addBare(std::to_string(number)); }
     void add(int number) { addBare(std::to_string(number)); }
+    void add(double number) { addBare(Str(number)); } // no infinite one
     void add(bool value) { addBare(value ? "true" : "false"); }
     void addNull() { addBare("null"); }
 

@@ -19,6 +19,7 @@ class TextReport {
         bytes_.append(width > characters ? width - characters : 0, ' ');
         return *this;
     }
+    void endColumn() { bytes_ += '\t'; }
     void endLine() { bytes_ += '\n'; }
 
     std::string_view bytes() const { return bytes_; }

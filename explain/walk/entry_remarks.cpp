@@ -76,9 +76,10 @@ class Remarker {
         bool block = false;
     };
 
-    void add(Kind kind, std::size_t word, std::size_t count, std::string text) {
+    void add(Kind kind, std::uint32_t cause, std::size_t word, std::size_t count,
+             std::string text) {
         if (said_.insert(text).second)
-            remarks_.push_back({kind, word, count, std::move(text)});
+            remarks_.push_back({kind, cause, word, count, std::move(text)});
     }
     const SaidLine &said() {
         if (!saidLine_)
@@ -157,12 +158,13 @@ void Remarker::remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> c
     }
     if (crossings.size() > kMost)
         text += " and " + std::to_string(crossings.size() - kMost) + " more";
-    add(Kind::altered, word, lastWord - word + 1,
+    add(Kind::altered, crossings.front().row, word, lastWord - word + 1,
         text + (sound ? ". The file is sound: correct the transcript."
                       : ". Correct these words of the file first."));
 }
 
 void Remarker::remarkOnDigits() {
+    constexpr std::uint32_t kOutOfStep = 0x10000; // no row of the chain
     bool inStep = true;
     ShortList kept;
     std::unordered_set<std::string_view> told;
@@ -173,7 +175,7 @@ void Remarker::remarkOnDigits() {
         if (isNarrow(word)) {
             inStep = !inStep;
             if (!inStep && i + 1 < line_.words.size() && !isNarrow(line_.words[i + 1])) {
-                add(Kind::altered, i, 1,
+                add(Kind::altered, kOutOfStep | word.code, i, 1,
                     std::string(word.digits).append(", ").append(word.meaning->name) +
                         ", has no blank in the transcript, and what follows is read out of step. "
                         "The file is sound: correct the transcript.");
@@ -194,7 +196,7 @@ void Remarker::remarkOnDigits() {
         last = i;
     }
     if (!kept.empty()) {
-        add(Kind::digits, first, last - first + 1,
+        add(Kind::digits, line_.words[first].code, first, last - first + 1,
             "The program does not know " + kept.text() +
                 ". The file is sound: correct the transcript.");
     }
@@ -210,10 +212,10 @@ void Remarker::advise() {
     for (std::size_t i = 0; i < line_.words.size(); ++i)
         adviseOn(i, told);
     if (told.style)
-        add(Kind::advice, 0, line_.words.size(),
+        add(Kind::advice, 0, 0, line_.words.size(),
             "“--” stands for a change of style, which takes a column: put a blank in its place.");
     if (told.block)
-        add(Kind::advice, 0, line_.words.size(),
+        add(Kind::advice, 0, 0, line_.words.size(),
             "“█” is a bar to the program, which takes bars out or makes them blanks: correct the "
             "transcript.");
 }
@@ -233,14 +235,14 @@ void Remarker::adviseOn(std::size_t index, Told &told) {
     const bool stands =
         !fate.text.empty() && !fate.isBlank && fate.swallowed.empty() && fate.kept.empty();
     if (isCharacterCode(word) && stands && word.repeats) {
-        add(Kind::advice, index - 1, 2,
+        add(Kind::advice, 0, index - 1, 2,
             inQuotes(meaning.shown) + " is sent twice, as codes are, and stands twice in the "
                                       "transcript: take one out.");
     } else if (meaning.kind == CodeKind::extended && stands && index > 0 &&
                line_.words[index - 1].meaning->kind == CodeKind::text &&
                walk_.fateOf(index - 1, 1).swallowed.empty()) {
         const std::string plain = inQuotes(lastCharacter(line_.words[index - 1].meaning->shown));
-        add(Kind::advice, index - 1, 2,
+        add(Kind::advice, 0, index - 1, 2,
             inQuotes(meaning.shown) + " takes the place of the " + plain +
                 " before it, which is for old decoders; the transcript has both: take " + plain +
                 " out.");
@@ -267,7 +269,7 @@ void Remarker::adviseOnGluing(std::size_t code) {
     const CodeMeaning &after = *line_.words[behind].meaning;
     if (isCharacters(before) && !before.shown.ends_with(' ') && isCharacters(after) &&
         !after.shown.starts_with(' ')) {
-        add(Kind::advice, ahead, behind - ahead + 1,
+        add(Kind::advice, 0, ahead, behind - ahead + 1,
             std::string(line_.words[code].digits) + " parts " + saidBy(ahead) + " and " +
                 saidBy(behind) +
                 " on the screen, but the transcript has nothing for it: put a blank between them.");

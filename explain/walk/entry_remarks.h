@@ -12,9 +12,10 @@ struct EntryRemark {
         advice,  // all else that a viewer sees in another way
     };
     Kind kind = Kind::advice;
-    std::size_t word = 0;  // the first of those that it concerns, of the line
-    std::size_t count = 0; // how many
-    std::string text{};    // for the user: what it is, and what to do
+    std::uint32_t cause = 0; // the same where remarks of a kind come about in the same way
+    std::size_t word = 0;    // the first of those that it concerns, of the line
+    std::size_t count = 0;   // how many
+    std::string text{};      // for the user: what it is, and what to do
 };
 
 /// Adds what there is to say of a line's entry, the remarks of one kind after those of another, and

@@ -25,16 +25,23 @@ _norvane_transcript() {
     --without)
         compopt -o nospace # another kind may follow
         mapfile -t COMPREPLY < <(
-            compgen -P "${word%"${word##*,}"}" -W 'header tab timecode timecode-form frame dropped-frame
-                separator order overlap word parity single channel field text-mode columns code digits
-                altered' -- "${word##*,}"
+            compgen -P "${word%"${word##*,}"}" -W 'header bom tab timecode timecode-form hours frame
+                dropped-frame separator order overlap twice word parity single channel field text-mode code
+                empty never-shown never-erased columns rows reading-rate shortest longest gap row-length
+                upper-rows digits altered' -- "${word##*,}"
+        )
+        ;;
+    --limit)
+        compopt -o nospace
+        mapfile -t COMPREPLY < <(
+            compgen -W 'reading-rate= shortest= longest= gap= row-length= rows= upper-rows' -- "$word"
         )
         ;;
     *)
         if [[ $word == -* ]]; then
             mapfile -t COMPREPLY < <(
-                compgen -W '--form --clock --output-dir --force --explain --check --without --json --help
-                    --version' -- "$word"
+                compgen -W '--form --clock --output-dir --force --explain --check --each --summary
+                    --limit --without --json --help --version' -- "$word"
             )
         else
             _norvane_transcript_files "$word"

@@ -18,8 +18,12 @@ complete -c norvane-transcript -l output-dir -x -a '(__fish_complete_directories
 complete -c norvane-transcript -l force -d 'Replace transcripts that exist already'
 complete -c norvane-transcript -l explain -d 'Print what became of each word'
 complete -c norvane-transcript -l check -d 'Print what is wrong with files'
+complete -c norvane-transcript -l each -d 'Tell each finding, also of the same cause'
+complete -c norvane-transcript -l summary -d 'Print a line for each file'
+complete -c norvane-transcript -l limit -x -d 'Ask for more than the standard does' \
+    -a 'reading-rate= shortest= longest= gap= row-length= rows= upper-rows'
 complete -c norvane-transcript -l without -x -d 'Leave out kinds of findings' \
-    -a '(__fish_append , header tab timecode timecode-form frame dropped-frame separator order overlap word parity single channel field text-mode columns code digits altered)'
+    -a '(__fish_append , header bom tab timecode timecode-form hours frame dropped-frame separator order overlap twice word parity single channel field text-mode code empty never-shown never-erased columns rows reading-rate shortest longest gap row-length upper-rows digits altered)'
 complete -c norvane-transcript -l json -d 'Print one JSON object a line'
 complete -c norvane-transcript -s h -l help -d 'Print the usage'
 complete -c norvane-transcript -l version -d 'Print the version'

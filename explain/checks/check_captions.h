@@ -1,0 +1,51 @@
+#pragma once
+
+#include "explain/captions/caption.h"
+#include "explain/checks/findings.h"
+#include "explain/checks/limits.h"
+
+namespace norvane {
+
+/// A film in one line.
+struct FilmSummary {
+    std::size_t lines = 0;    // with a timecode and words
+    std::size_t captions = 0; // that were shown
+    bool dropFrame = false;
+    std::optional<long> firstFrame{}; // with a caption
+    std::optional<long> lastFrame{};  // the first without any, or the start of one that stays
+    std::optional<double> fastest{};  // characters a second
+    std::size_t longestRow = 0;       // characters
+    int mostRows = 0;                 // at once
+    std::bitset<kServiceNames.size()> services{};
+    std::bitset<3> modes{}; // by CaptionMode
+};
+
+class CaptionTeller;
+
+/// Looks at the captions of a film.
+class CaptionCheck {
+  public:
+    explicit CaptionCheck(const Limits &limits) : limits_(limits) {}
+
+    /// Takes the captions as FilmDecoder tells them. `dropFrame` is how the film counts.
+    void look(const Caption &caption, bool dropFrame, Findings &findings);
+
+    const FilmSummary &summary() const { return summary_; }
+
+  private:
+    void sum(const Caption &caption);
+    void lookAtTimes(const Caption &caption, Findings &findings);
+    void lookAtGap(const Caption &caption, Findings &findings);
+    void lookAtRows(const Caption &caption, Findings &findings);
+    void lookAtLength(const CaptionRow &row, const CaptionTeller &teller) const;
+
+    Limits limits_;
+    FilmSummary summary_{};
+    std::array<std::optional<long>, kServiceNames.size()> ends_{}; // of the captions before
+};
+
+/// What a caption's viewer has to read a second, at 29.97 frames; nothing where it stays, or goes
+/// at once.
+std::optional<double> readingRateOf(const Caption &caption);
+
+} // namespace norvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "explain/checks/check.h"
+#include "explain/reports/json.h"
+#include "explain/reports/text_report.h"
+
+namespace norvane {
+
+/// The names of the columns of summaries, with tabs between them.
+void addSummaryHead(TextReport &report);
+
+/// A film in a line of its own, in these columns or as an object. `file` is what the user called
+/// it.
+void addSummary(TextReport &report, std::string_view file, const CheckResult &result);
+void addSummary(JsonWriter &json, std::string_view file, const CheckResult &result);
+
+} // namespace norvane

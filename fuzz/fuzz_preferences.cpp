@@ -1,4 +1,4 @@
-#include "framework/headless/look.h"
+#include "framework/headless/description.h"
 #include "tests/support/scenario.h"
 
 #include <algorithm>
@@ -16,9 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     std::replace(text.begin(), text.end(), '/', '_');
     folder.write("com.bellwick.norvane.prefs", text);
     const HeadlessDesktop desktop;
-    std::string first = look(Window1::the());
+    std::string first = describe(Window1::the());
     Window1::the().Close();
-    if (first != look(Window1::the()))
+    if (first != describe(Window1::the()))
         std::abort();
     Window1::the().Close();
     return 0;

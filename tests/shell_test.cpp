@@ -1,4 +1,4 @@
-#include "framework/headless/look.h"
+#include "framework/headless/description.h"
 #include "framework/windows/guard.h"
 #include "shell/about_win.h"
 #include "shell/app.h"
@@ -16,7 +16,7 @@ class Shell : public Scenario {
 };
 
 TEST_F(Shell, WindowsLookAsDesigned) {
-    EXPECT_EQ(look(window()) + look(aboutWin::the()), scene("windows"));
+    EXPECT_EQ(describe(window()) + describe(aboutWin::the()), scene("windows"));
 }
 
 TEST_F(Shell, MenusAndFileTypes) {

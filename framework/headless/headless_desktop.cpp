@@ -1,6 +1,6 @@
 #include "framework/headless/headless_desktop.h"
 
-#include "framework/headless/look.h"
+#include "framework/headless/description.h"
 #include "framework/windows/guard.h"
 #include "framework/windows/window.h"
 
@@ -125,20 +125,21 @@ void HeadlessDesktop::add(Window &window) {
             if (control->Visible && immediately)
                 note(control->Name + " repainted");
         };
-        if (auto *box = dynamic_cast<CheckBox *>(control))
-            box->Value.shown = changed;
-        if (auto *button = dynamic_cast<RadioButton *>(control))
-            button->Value.shown = changed;
-        if (auto *field = dynamic_cast<TextField *>(control))
-            field->Text.shown = changed;
-        if (auto *label = dynamic_cast<Label *>(control))
-            label->Text.shown = changed;
-        if (auto *arrow = dynamic_cast<PopupArrow *>(control))
-            arrow->Facing.shown = changed;
-        if (auto *bar = dynamic_cast<ProgressBar *>(control)) {
-            bar->Value.shown = changed;
-            bar->Maximum.shown = changed;
-        }
+        const auto whenValue = [&](auto *box) { box->Value.shown = changed; };
+        const auto whenText = [&](auto *field) { field->Text.shown = changed; };
+        std::visit(Visitor{
+                       [&](CheckBox *box) { whenValue(box); },
+                       [&](RadioButton *button) { whenValue(button); },
+                       [&](TextField *field) { whenText(field); },
+                       [&](Label *label) { whenText(label); },
+                       [&](PopupArrow *arrow) { arrow->Facing.shown = changed; },
+                       [&](ProgressBar *bar) {
+                           whenValue(bar);
+                           bar->Maximum.shown = changed;
+                       },
+                       [](Control *) {},
+                   },
+                   control->kind());
     }
     window.Height.shown = [this, &window] {
         note(window.Title + " " + std::to_string(window.Height));

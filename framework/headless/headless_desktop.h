@@ -28,7 +28,8 @@ class HeadlessDesktop : public Desktop {
     /// What the user saw since the last call, in order: a line "message TEXT", "open dialog TYPE",
     /// "save dialog TYPE NAME", "folder dialog", "launch PATH", "launch PATH in front", "url
     /// ADDRESS" or "show TITLE" each; and of opened windows "TITLE HEIGHT", "CONTROL repainted" (at
-    /// once) and "CONTROL STATE" after a change of what is in view, with the words of look.h.
+    /// once) and "CONTROL STATE" after a change of what is in view, with the words of
+    /// description.h.
     std::vector<std::string> takeLog();
 
     /// Dialogs that no answer stood ready for, answers that no dialog took, and clicks on what

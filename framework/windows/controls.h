@@ -4,13 +4,34 @@
 
 #include <functional>
 #include <string>
-#include <vector>
+#include <variant>
 
 /// The controls as the program sees them: plain models, which work without a screen. The desktop
 /// gives each a widget and keeps both in step. Positions and sizes are in points, a pixel at 100 %.
 namespace norvane {
 
-class Window;
+class BevelButton;
+class PushButton;
+class CheckBox;
+class RadioButton;
+class TextField;
+class Label;
+class ProgressBar;
+class Canvas;
+class Separator;
+class PopupArrow;
+class Listbox;
+
+/// A control by its kind, for std::visit.
+using AnyControl =
+    std::variant<BevelButton *, PushButton *, CheckBox *, RadioButton *, TextField *, Label *,
+                 ProgressBar *, Canvas *, Separator *, PopupArrow *, Listbox *>;
+
+/// A visitor of some kinds, a function each; one that takes a Control * is for all the others.
+template <class... Functions>
+struct Visitor : Functions... {
+    using Functions::operator()...;
+};
 
 class Control {
   public:
@@ -18,6 +39,8 @@ class Control {
     virtual ~Control() = default;
     Control(const Control &) = delete;
     Control &operator=(const Control &) = delete;
+
+    virtual AnyControl kind() = 0;
 
     std::string Name;
     int Left = 0;
@@ -53,15 +76,22 @@ class Button : public Control {
 
 class BevelButton : public Button {
   public:
+    AnyControl kind() override { return this; }
+
     static constexpr int kSmallSquare = 0;
     static constexpr int kRounded = 3;
     int Bevel = kRounded;
 };
 
-class PushButton : public Button {};
+class PushButton : public Button {
+  public:
+    AnyControl kind() override { return this; }
+};
 
 class CheckBox : public Control {
   public:
+    AnyControl kind() override { return this; }
+
     std::string Caption;
     Property<bool> Value; // its changed is the Action
 };
@@ -69,6 +99,8 @@ class CheckBox : public Control {
 /// One of its window's radio buttons: turning one on turns the others off. All may be off.
 class RadioButton : public Control {
   public:
+    AnyControl kind() override { return this; }
+
     std::string Caption;
     Property<bool> Value;
 };
@@ -77,12 +109,16 @@ enum class Alignment { left = 0, centred = 2 };
 
 class TextField : public Control {
   public:
+    AnyControl kind() override { return this; }
+
     Property<std::string> Text; // its changed is the TextChange
     Alignment alignment = Alignment::left;
 };
 
 class Label : public Control {
   public:
+    AnyControl kind() override { return this; }
+
     Property<std::string> Text; // "\r" parts its lines
     int TextSize = 0;           // pixels at 100 %; 0 is the system font's size
     bool grey = false;          // red, green and blue all 128
@@ -92,6 +128,8 @@ class Label : public Control {
 
 class ProgressBar : public Control {
   public:
+    AnyControl kind() override { return this; }
+
     Property<int> Value{0};
     Property<int> Maximum{100};
 };
@@ -99,14 +137,21 @@ class ProgressBar : public Control {
 /// A picture: the name of one of the application's own, drawn in the control's area.
 class Canvas : public Control {
   public:
+    AnyControl kind() override { return this; }
+
     std::string Backdrop;
 };
 
-class Separator : public Control {};
+class Separator : public Control {
+  public:
+    AnyControl kind() override { return this; }
+};
 
 /// A disclosure arrow.
 class PopupArrow : public Control {
   public:
+    AnyControl kind() override { return this; }
+
     static constexpr int kRight = 0; // folded
     static constexpr int kDown = 3;  // unfolded
     Property<int> Facing{kRight};
@@ -114,6 +159,9 @@ class PopupArrow : public Control {
     std::function<bool()> MouseDown;
 };
 
-class Listbox : public Control {};
+class Listbox : public Control {
+  public:
+    AnyControl kind() override { return this; }
+};
 
 } // namespace norvane

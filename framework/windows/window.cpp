@@ -33,8 +33,9 @@ void Window::add(Control &control, const char *name, int left, int top, int widt
     control.Width = width;
     control.Height = height;
     controls_.push_back(&control);
-    if (auto *button = dynamic_cast<RadioButton *>(&control))
-        joinRadioButtons(*button);
+    const AnyControl kind = control.kind();
+    if (const auto *button = std::get_if<RadioButton *>(&kind))
+        joinRadioButtons(**button);
 }
 
 void Window::joinRadioButtons(RadioButton &button) {
@@ -42,9 +43,10 @@ void Window::joinRadioButtons(RadioButton &button) {
         if (!button.Value)
             return;
         for (Control *control : controls_) {
-            auto *other = dynamic_cast<RadioButton *>(control);
-            if (other != nullptr && other != &button)
-                other->Value = false;
+            const AnyControl kind = control->kind();
+            const auto *other = std::get_if<RadioButton *>(&kind);
+            if (other != nullptr && *other != &button)
+                (*other)->Value = false;
         }
     };
 }

@@ -365,15 +365,6 @@ TEST_F(MainWindow, LabelsAreSetCloserBeforeTheirLinesBreak) {
               at("LineBox")->fontMetrics().horizontalAdvance(box->text()));
 }
 
-TEST_F(MainWindow, AControlOfAnUnknownKindIsAnError) {
-    struct : Window {
-        Control control;
-        void fill() { add(control, "Odd", 0, 0, 10, 10); }
-    } odd;
-    odd.fill();
-    EXPECT_THROW(odd.Show(), std::logic_error);
-}
-
 TEST_F(MainWindow, FieldsAndModelsStayInStep) {
     click("PopupArrow1");
     auto *field = at<QLineEdit>("timerText");

@@ -175,6 +175,7 @@ void Window1::nameForScreenReaders() {
     TextField1.accessibleName = "Watch folder";
     TextField2.accessibleName = "Destination folder";
     timerText.accessibleName = "Minutes between two checks for files";
+    tellFolding();
 }
 
 } // namespace norvane

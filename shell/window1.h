@@ -122,6 +122,7 @@ class Window1 : public Window {
     void _CreateControls0(); // NOLINT: the name is the window designer's
     void _CreateControls1(); // NOLINT
     void nameForScreenReaders();
+    void tellFolding(); // shell/window1_handlers.cpp
 
     // decode/decode_lines.cpp, for all three modes
     bool decodeLines(TextInputStream &stream);

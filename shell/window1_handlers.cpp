@@ -82,10 +82,18 @@ void Window1::BevelButton8_Action() {
         "settings and to activate this feature.");
 }
 
+/// What screen readers are told of more reliably than of the arrow's direction.
+void Window1::tellFolding() {
+    PopupArrow1.hint = PopupArrow1.Facing == PopupArrow::kRight
+                           ? "Collapsed: shows the settings below when pressed"
+                           : "Expanded: hides the settings below when pressed";
+}
+
 bool Window1::PopupArrow1_MouseDown() {
     const bool folded = PopupArrow1.Facing == PopupArrow::kRight;
     PopupArrow1.Facing = folded ? PopupArrow::kDown : PopupArrow::kRight;
     Height = folded ? kUnfoldedHeight : kFoldedHeight;
+    tellFolding();
     return false;
 }
 

@@ -1,8 +1,8 @@
+#include "framework/qt/accessibility.h"
 #include "framework/qt/widgets.h"
 #include "framework/windows/guard.h"
 
 #include <QAbstractButton>
-#include <QAccessibleWidget>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -15,15 +15,10 @@ class ArrowWidget : public QAbstractButton {
   public:
     using QAbstractButton::QAbstractButton;
 
-    bool pointsDown() const { return pointsDown_; }
     void setPointsDown(bool down) {
         pointsDown_ = down;
         update();
-        QAccessible::State changed;
-        changed.expanded = true;
-        changed.collapsed = true;
-        QAccessibleStateChangeEvent event(this, changed);
-        QAccessible::updateAccessibility(&event);
+        tellExpanded(this, down);
     }
 
   protected:
@@ -48,43 +43,11 @@ class ArrowWidget : public QAbstractButton {
     bool pointsDown_ = false;
 };
 
-/// The triangle as screen readers know it: a button that tells whether it is open.
-class ArrowInterface : public QAccessibleWidget {
-  public:
-    explicit ArrowInterface(ArrowWidget &arrow)
-        : QAccessibleWidget(&arrow, QAccessible::Button), arrow_(arrow) {}
-
-    QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.expandable = true;
-        state.expanded = arrow_.pointsDown();
-        state.collapsed = !arrow_.pointsDown();
-        return state;
-    }
-    QStringList actionNames() const override {
-        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
-    }
-    void doAction(const QString &name) override {
-        if (name == pressAction())
-            arrow_.click();
-        else
-            QAccessibleWidget::doAction(name);
-    }
-
-  private:
-    ArrowWidget &arrow_;
-};
-
-QAccessibleInterface *arrowInterface(const QString & /*className*/, QObject *object) {
-    auto *arrow = dynamic_cast<ArrowWidget *>(object);
-    return arrow == nullptr ? nullptr : new ArrowInterface(*arrow);
-}
-
 } // namespace
 
 QWidget *makeArrow(PopupArrow &arrow, QWidget *parent) {
-    QAccessible::installFactory(arrowInterface);
     auto *widget = new ArrowWidget(parent);
+    tellRole(widget, QAccessible::Button);
     widget->setFocusPolicy(Qt::StrongFocus);
     follow(arrow.Facing, widget,
            [&arrow, widget] { widget->setPointsDown(arrow.Facing == PopupArrow::kDown); });

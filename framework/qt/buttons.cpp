@@ -1,3 +1,4 @@
+#include "framework/qt/accessibility.h"
 #include "framework/qt/qt_text.h"
 #include "framework/qt/widgets.h"
 #include "framework/windows/guard.h"
@@ -11,6 +12,15 @@ namespace norvane {
 
 namespace {
 
+/// A button of this kind, known to screen readers before its caption makes them look at it.
+template <class Widget>
+Widget *make(QAccessible::Role role, const std::string &caption, QWidget *parent) {
+    auto *widget = new Widget(parent);
+    tellRole(widget, role);
+    widget->setText(toQt(caption));
+    return widget;
+}
+
 void actOnClick(QAbstractButton *widget, const Button &button) {
     QObject::connect(widget, &QAbstractButton::clicked, [&button] { guarded(button.Action); });
 }
@@ -20,31 +30,29 @@ void actOnClick(QAbstractButton *widget, const Button &button) {
 QWidget *makeButton(BevelButton &button, QWidget *parent) {
     QAbstractButton *widget = nullptr;
     if (button.Bevel == BevelButton::kSmallSquare)
-        widget = new QToolButton(parent);
+        widget = make<QToolButton>(QAccessible::Button, button.Caption, parent);
     else
-        widget = new QPushButton(parent);
-    widget->setText(toQt(button.Caption));
+        widget = make<QPushButton>(QAccessible::Button, button.Caption, parent);
     widget->setFocusPolicy(Qt::StrongFocus);
     actOnClick(widget, button);
     return widget;
 }
 
 QWidget *makeButton(PushButton &button, QWidget *parent) {
-    auto *widget = new QPushButton(toQt(button.Caption), parent);
+    auto *widget = make<QPushButton>(QAccessible::Button, button.Caption, parent);
     actOnClick(widget, button);
     return widget;
 }
 
 QWidget *makeCheckBox(CheckBox &box, QWidget *parent) {
-    auto *widget = new QCheckBox(toQt(box.Caption), parent);
+    auto *widget = make<QCheckBox>(QAccessible::CheckBox, box.Caption, parent);
     follow(box.Value, widget, [&box, widget] { widget->setChecked(box.Value); });
-    // Not clicked, which a screen reader's action does not raise.
     QObject::connect(widget, &QCheckBox::toggled, [&box](bool checked) { box.Value = checked; });
     return widget;
 }
 
 QWidget *makeRadioButton(RadioButton &button, QWidget *parent) {
-    auto *widget = new QRadioButton(toQt(button.Caption), parent);
+    auto *widget = make<QRadioButton>(QAccessible::RadioButton, button.Caption, parent);
     follow(button.Value, widget, [&button, widget] {
         // An exclusive button cannot be switched off, but the model has states without any on.
         widget->setAutoExclusive(false);

@@ -7,7 +7,7 @@ namespace norvane {
 
 namespace {
 
-/// A line that is seen on the window, whatever its colour.
+/// A line that is seen on the window, whatever its colour: in a contrast of 3 to 1 or more.
 void drawOutline(const QRect &place, const QStyleOption &option, QPainter &painter, bool round) {
     constexpr double kCorner = 2.5;
     constexpr float kOpacity = 0.6F;
@@ -25,11 +25,6 @@ void drawOutline(const QRect &place, const QStyleOption &option, QPainter &paint
     painter.restore();
 }
 
-bool isDark(const QStyleOption &option) {
-    constexpr int kMiddle = 128;
-    return option.palette.color(QPalette::Window).lightness() < kMiddle;
-}
-
 } // namespace
 
 ControlStyle::ControlStyle(QStyle *desktopStyle, const Scale &scale)
@@ -42,13 +37,18 @@ ControlStyle::ControlStyle(QStyle *desktopStyle, const Scale &scale)
 
 void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isMark = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
-    const bool isField = element == PE_PanelLineEdit && !(option->state & State_HasFocus);
-    // A style that finds a field too low for its border leaves it no room.
-    const bool isBare = isField && subElementRect(SE_LineEditContents, option, widget).height() ==
-                                       option->rect.height();
-    if ((isMark || isField) && (isDark(*option) || isBare))
+    const bool isField = element == PE_PanelLineEdit;
+    if (const auto *field = qstyleoption_cast<const QStyleOptionFrame *>(option);
+        isField && field != nullptr && !(option->state & State_Enabled)) {
+        // Not every desktop gives what is disabled a ground of its own.
+        QStyleOptionFrame disabled = *field;
+        disabled.palette.setBrush(QPalette::Base, option->palette.window());
+        QProxyStyle::drawPrimitive(element, &disabled, painter, widget);
+    } else {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    if (isMark || (isField && !(option->state & State_HasFocus)))
         drawOutline(option->rect & widget->rect(), *option, *painter,
                     element == PE_IndicatorRadioButton);
 }

@@ -7,8 +7,9 @@
 namespace norvane {
 
 /// The desktop's style, as controls of a given size need it: texts are whole even where the style
-/// would want more room around them; boxes, radio buttons and fields can be seen on a dark window,
-/// and fields have a border also where the style leaves it out; marks grow with the window.
+/// would want more room around them; the outlines of boxes, radio buttons and fields can be seen on
+/// any window, also where the style leaves them out; disabled fields are not as light as others;
+/// marks grow with the window.
 class ControlStyle : public QProxyStyle {
   public:
     /// Owns `desktopStyle`.

@@ -2,13 +2,17 @@
 
 #include "framework/files/disk.h"
 #include "framework/qt/qt_text.h"
+#include "framework/text/failures.h"
 #include "framework/text/text.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace norvane {
 
@@ -20,33 +24,70 @@ QWidget *owner() {
     return modal != nullptr ? modal : QApplication::activeWindow();
 }
 
-/// A dialog for one name. Unlike the toolkit's own it takes quotation marks for part of the name.
+/// A dialog for one name. Unlike the toolkit's own it takes quotation marks for part of the name,
+/// and leaves it to the caller to tell that a name is too long.
 class NameDialog : public QFileDialog {
   public:
     NameDialog(const char *title, const QString &folder)
         : QFileDialog(owner(), QString::fromLatin1(title), folder) {}
 
-    QString path() const { return quoted_.isEmpty() ? selectedFiles().value(0) : quoted_; }
+    QString path() const { return typed_.isEmpty() ? selectedFiles().value(0) : typed_; }
+
+    /// Any name may be tried, whatever its length.
+    void letSave() {
+        setAcceptMode(AcceptSave);
+        const auto *edit = nameEdit();
+        const auto *buttons = findChild<QDialogButtonBox *>();
+        if (edit == nullptr || buttons == nullptr)
+            return;
+        connect(edit, &QLineEdit::textChanged, this,
+                [save = buttons->button(QDialogButtonBox::Save)](const QString &name) {
+                    save->setEnabled(!name.isEmpty());
+                });
+    }
 
   protected:
     void accept() override {
-        const auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        const bool hasQuotes = edit != nullptr && edit->text().contains(u'"');
-        quoted_ = hasQuotes ? directory().filePath(edit->text()) : QString();
-        const QFileInfo info(quoted_);
+        constexpr int kToolkitsLimit = 255;
+        const auto *edit = nameEdit();
+        const bool saves = acceptMode() == AcceptSave;
+        const bool isOdd = edit != nullptr && (edit->text().contains(u'"') ||
+                                               (saves && edit->text().size() > kToolkitsLimit));
+        typed_ = isOdd ? directory().filePath(edit->text()) : QString();
+        const QFileInfo info(typed_);
         const bool wantsFolder = fileMode() == Directory;
-        if (hasQuotes && info.isDir() && !wantsFolder)
-            setDirectory(quoted_);
-        else if (hasQuotes &&
-                 (acceptMode() == AcceptSave || (info.exists() && info.isDir() == wantsFolder)))
+        if (isOdd && info.isDir() && !wantsFolder)
+            setDirectory(typed_);
+        else if (isOdd && (saves || (info.exists() && info.isDir() == wantsFolder)))
             done(QDialog::Accepted);
         else
             QFileDialog::accept();
     }
 
   private:
-    QString quoted_; // the path that was chosen, where the name has quotation marks
+    const QLineEdit *nameEdit() const {
+        return findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    }
+
+    QString typed_; // the path that was chosen, where the toolkit would not take its name
 };
+
+/// Of what the user's hands did while an action kept the event loop from them, lets through the
+/// wishes to close a window and to quit, which the dialog that is about to come up would swallow;
+/// the rest is not meant for it either.
+void hearWishes() {
+    class : public QObject {
+        bool eventFilter(QObject *watched, QEvent *event) override {
+            const auto *command = qobject_cast<QAction *>(watched);
+            if (event->type() == QEvent::Shortcut)
+                return command == nullptr || command->menuRole() != QAction::QuitRole;
+            return event->isInputEvent() && watched->isWindowType();
+        }
+    } filter;
+    qApp->installEventFilter(&filter);
+    constexpr int kMilliseconds = 50; // at most
+    QCoreApplication::processEvents(QEventLoop::AllEvents, kMilliseconds);
+}
 
 } // namespace
 
@@ -68,7 +109,7 @@ Ref<FolderItem> Dialogs::openFile(const std::string &fileType) {
 
 Ref<FolderItem> Dialogs::saveFile(const std::string &fileType, const std::string &defaultName) {
     NameDialog dialog("Save", lastFolder_);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.letSave();
     dialog.setNameFilter(filterFor(fileType));
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // which knows nothing of the extension
     dialog.selectFile(QFile::decodeName(defaultName.c_str()));
@@ -83,10 +124,13 @@ Ref<FolderItem> Dialogs::saveFile(const std::string &fileType, const std::string
             message(QMessageBox::Warning, inQuotes(folder.toStdString()) + " is not a folder.");
             continue;
         }
-        if (disk::kindOf(QFile::encodeName(path).toStdString(), disk::Kind::other) ==
-                disk::Kind::missing ||
-            mayReplace(QFileInfo(path).fileName()))
-            return chosen(path, folder);
+        try {
+            const disk::Kind kind = disk::kindOf(QFile::encodeName(path).toStdString());
+            if (kind == disk::Kind::missing || mayReplace(QFileInfo(path).fileName()))
+                return chosen(path, folder);
+        } catch (const IOException &failure) { // such as a name that is too long
+            message(QMessageBox::Warning, failure.what());
+        }
     }
 }
 
@@ -108,9 +152,8 @@ void Dialogs::cancelAll() {
 int Dialogs::run(QDialog &dialog) {
     if (cancelling_)
         return QDialog::Rejected;
-    ++waiting_;
+    hearWishes();
     const int result = dialog.exec();
-    --waiting_;
     // Its picture stays on the windows behind it for as long as an action keeps them from painting.
     for (QWidget *window : QApplication::topLevelWidgets())
         window->update();
@@ -119,7 +162,7 @@ int Dialogs::run(QDialog &dialog) {
 
 bool Dialogs::mayReplace(const QString &name) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Save"),
-                    QStringLiteral("“%1” is there already. Shall it be replaced?").arg(name),
+                    QStringLiteral("“%1” already exists. Replace it?").arg(name),
                     QMessageBox::Yes | QMessageBox::No, owner());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);

@@ -29,9 +29,6 @@ class Dialogs {
     Ref<FolderItem> saveFile(const std::string &fileType, const std::string &defaultName);
     Ref<FolderItem> folder();
 
-    /// Whether some dialog waits for its answer, so that an action is at work.
-    bool waiting() const { return waiting_ > 0; }
-
     /// Cancels the dialogs that wait, and from now on each before it is shown.
     void cancelAll();
 
@@ -44,7 +41,6 @@ class Dialogs {
 
     std::vector<FileType> types_;
     QString lastFolder_ = QDir::homePath();
-    int waiting_ = 0;
     bool cancelling_ = false;
 };
 

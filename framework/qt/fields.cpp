@@ -38,7 +38,10 @@ QWidget *makeTextField(TextField &field, QWidget *parent) {
     palette.setColor(QPalette::Disabled, QPalette::Text, colour);
     widget->setPalette(palette);
     widget->setAlignment(horizontal(field.alignment) | Qt::AlignVCenter);
+    widget->setReadOnly(!field.Enabled); // as it is told to screen readers
     follow(field.Text, widget, [&field, widget] {
+        if (!field.Enabled)
+            field.hint = field.Text.get(); // where it is readable whole, however long
         const QString text = toQt(field.Text);
         if (widget->text() == text)
             return;
@@ -46,10 +49,12 @@ QWidget *makeTextField(TextField &field, QWidget *parent) {
         const QSignalBlocker noEcho(widget);
         widget->setText(text);
     });
-    // Whoever types through the accessibility interface asks for this alone.
-    follow(field.Enabled, widget, [&field, widget] { widget->setReadOnly(!field.Enabled); });
-    QObject::connect(widget, &QLineEdit::textChanged,
-                     [&field](const QString &text) { field.Text = text.toStdString(); });
+    QObject::connect(widget, &QLineEdit::textChanged, [&field, widget](const QString &text) {
+        if (widget->isEnabled())
+            field.Text = text.toStdString();
+        else // by a screen reader, which nothing else keeps from it
+            field.Text.shown();
+    });
     return widget;
 }
 

@@ -2,13 +2,17 @@
 
 #include "framework/qt/end_signals.h"
 #include "framework/qt/qt_text.h"
+#include "framework/windows/guard.h"
 #include "framework/windows/window.h"
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFontInfo>
+#include <QFontMetrics>
 #include <QProcess>
+#include <QScreen>
 #include <QStyleFactory>
 
 #include <algorithm>
@@ -17,8 +21,20 @@
 
 namespace norvane {
 
+namespace {
+
+/// The screen's free area, without what stands around a window's own.
+QSize roomOnScreen() {
+    constexpr QSize kFrame(10, 45); // of a window manager's
+    constexpr int kAroundMenus = 12;
+    const int menuBar = QFontMetrics(QApplication::font("QMenuBar")).height() + kAroundMenus;
+    return QGuiApplication::primaryScreen()->availableSize() - kFrame - QSize(0, menuBar);
+}
+
+} // namespace
+
 QtDesktop::QtDesktop()
-    : scale(QFontInfo(QApplication::font()).pixelSize()),
+    : scale(QFontInfo(QApplication::font()).pixelSize(), roomOnScreen()),
       style_(*new ControlStyle(QStyleFactory::create(QApplication::style()->name()), scale)) {
     style_.setParent(qApp); // which deletes its widgets first
     setCurrent(*this);
@@ -27,6 +43,8 @@ QtDesktop::QtDesktop()
     alarm_.setSingleShot(true);
     alarm_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&alarm_, &QTimer::timeout, [this] { raiseTicks(); });
+    quitting_.setSingleShot(true);
+    QObject::connect(&quitting_, &QTimer::timeout, [this] { quit(); });
 }
 
 QtDesktop::~QtDesktop() {
@@ -40,23 +58,20 @@ QWidget *QtDesktop::peerOf(const Window &window) const {
 }
 
 void QtDesktop::quit() {
+    if (actionAtWork()) {
+        quitting_.start(kAskAgain);
+        return;
+    }
     while (!windows_.empty())
         windows_.back()->Close();
     QCoreApplication::exit();
 }
 
 void QtDesktop::quitOnSignals() {
-    quitting_.setSingleShot(true);
-    QObject::connect(&quitting_, &QTimer::timeout, [this] { quitWhenIdle(); });
-    onEndSignals(alarm_, [this] { quitWhenIdle(); });
-}
-
-void QtDesktop::quitWhenIdle() {
-    dialogs.cancelAll();
-    if (dialogs.waiting()) // in a loop of theirs, which ends with this event
-        quitting_.start(0);
-    else
+    onEndSignals(alarm_, [this] {
+        dialogs.cancelAll();
         quit();
+    });
 }
 
 void QtDesktop::message(const std::string &text) {
@@ -82,7 +97,7 @@ Ref<FolderItem> QtDesktop::chooseFolder() {
 
 void QtDesktop::launch(const std::string &path, bool /*activate*/) {
     open(QUrl::fromLocalFile(QFile::decodeName(path.c_str())),
-         "The desktop has no program that opens this file:\n" + path);
+         "This file is saved, but the desktop has no program that opens it:\n" + path);
 }
 
 void QtDesktop::showURL(const std::string &address) {
@@ -93,11 +108,14 @@ void QtDesktop::showURL(const std::string &address) {
 /// Hands an address to the desktop. Where there is an opener, only its end tells whether it found a
 /// program, and some openers last as long as that program; so it is waited for on the side.
 void QtDesktop::open(const QUrl &address, const std::string &trouble) {
-    auto *opener = new QProcess; // left alone when this program ends first
-    QObject::connect(opener, &QProcess::finished, &alarm_, [this, opener, trouble](int status) {
+    constexpr int kFindsNothing = 3000; // milliseconds: what takes longer has found a program
+    auto *opener = new QProcess;        // left alone when this program ends first
+    QElapsedTimer started;
+    started.start();
+    QObject::connect(opener, &QProcess::finished, &alarm_, [=, this](int status) {
         opener->deleteLater();
-        if (status != 0)
-            message(trouble);
+        if (status != 0 && started.elapsed() < kFindsNothing)
+            tellLater(trouble);
     });
     QObject::connect(opener, &QProcess::errorOccurred, &alarm_,
                      [this, opener, address, trouble](QProcess::ProcessError error) {
@@ -105,11 +123,17 @@ void QtDesktop::open(const QUrl &address, const std::string &trouble) {
                              return;
                          opener->deleteLater();
                          if (!QDesktopServices::openUrl(address))
-                             message(trouble);
+                             tellLater(trouble);
                      });
     opener->setProcessChannelMode(QProcess::ForwardedChannels);
     opener->setStandardInputFile(QProcess::nullDevice());
     opener->start(QStringLiteral("xdg-open"), {QString::fromLatin1(address.toEncoded())});
+}
+
+/// From the event loop: in a message's own loop the sender of a signal may go.
+void QtDesktop::tellLater(const std::string &text) {
+    const auto tell = [this, text] { guarded([&] { message(text); }); };
+    QMetaObject::invokeMethod(&alarm_, tell, Qt::QueuedConnection);
 }
 
 void QtDesktop::add(Window &window) {

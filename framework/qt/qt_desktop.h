@@ -33,17 +33,17 @@ class QtDesktop : public Desktop {
     Pictures pictures;
     Dialogs dialogs;
 
-    /// Of all windows, by the desktop's font as it is when the program starts.
+    /// Of all windows, by the desktop's font and screen as they are when the program starts.
     const Scale scale;
 
     /// The window on screen; null for one that is not shown.
     QWidget *peerOf(const Window &window) const;
 
-    /// Closes all windows and ends the event loop.
+    /// Closes all windows and ends the event loop, once the action at work has ended.
     void quit();
 
-    /// Lets TERM, INT and HUP end the program as quit does, once the action at work has ended:
-    /// dialogs that it waits for are cancelled.
+    /// Lets TERM, INT and HUP end the program as quit does; dialogs that an action waits for are
+    /// cancelled.
     void quitOnSignals();
 
     void message(const std::string &text) override;
@@ -63,8 +63,8 @@ class QtDesktop : public Desktop {
     void timersChanged() override;
 
   private:
-    void quitWhenIdle();
     void open(const QUrl &address, const std::string &trouble);
+    void tellLater(const std::string &text);
     void raiseTicks();
 
     Application *application_ = nullptr;
@@ -73,7 +73,7 @@ class QtDesktop : public Desktop {
     std::vector<Window *> windows_;
     std::vector<Timer *> timers_;
     QTimer alarm_;    // goes off at the earliest due time
-    QTimer quitting_; // goes off when a dialog that waited has closed
+    QTimer quitting_; // runs while the wish to quit waits for an action's end
 };
 
 } // namespace norvane

@@ -1,29 +1,20 @@
 #include "framework/qt/widgets.h"
 
+#include "framework/qt/accessibility.h"
 #include "framework/qt/qt_text.h"
 
-#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFrame>
 #include <QListWidget>
 #include <QPainter>
+#include <QTextDocument>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace norvane {
 
 namespace {
-
-constexpr const char *kRole = "accessibleRole";
-
-QAccessibleInterface *interfaceByRole(const QString & /*className*/, QObject *object) {
-    const QVariant role = object->property(kRole);
-    return role.isValid() ? new QAccessibleWidget(qobject_cast<QWidget *>(object),
-                                                  static_cast<QAccessible::Role>(role.toInt()))
-                          : nullptr;
-}
 
 /// A picture, as large as fits the area and in its top left corner.
 class PictureWidget : public QWidget {
@@ -55,29 +46,31 @@ QWidget *makeSeparator(QWidget *parent) {
 }
 
 QWidget *widgetOfKind(Control &control, QWidget *parent, const Look &look) {
-    if (auto *bevelButton = dynamic_cast<BevelButton *>(&control))
-        return makeButton(*bevelButton, parent);
-    if (auto *pushButton = dynamic_cast<PushButton *>(&control))
-        return makeButton(*pushButton, parent);
-    if (auto *checkBox = dynamic_cast<CheckBox *>(&control))
-        return makeCheckBox(*checkBox, parent);
-    if (auto *radioButton = dynamic_cast<RadioButton *>(&control))
-        return makeRadioButton(*radioButton, parent);
-    if (auto *arrow = dynamic_cast<PopupArrow *>(&control))
-        return makeArrow(*arrow, parent);
-    if (auto *field = dynamic_cast<TextField *>(&control))
-        return makeTextField(*field, parent);
-    if (auto *label = dynamic_cast<Label *>(&control))
-        return makeLabel(*label, parent, look.scale);
-    if (auto *bar = dynamic_cast<ProgressBar *>(&control))
-        return makeProgressBar(*bar, parent);
-    if (auto *canvas = dynamic_cast<Canvas *>(&control))
-        return makePicture(look.pictures.find(canvas->Backdrop), parent);
-    if (dynamic_cast<Separator *>(&control) != nullptr)
-        return makeSeparator(parent);
-    if (dynamic_cast<Listbox *>(&control) != nullptr)
-        return new QListWidget(parent);
-    throw std::logic_error("no widget is known for the control " + control.Name);
+    return std::visit(Visitor{
+                          [&](BevelButton *button) { return makeButton(*button, parent); },
+                          [&](PushButton *button) { return makeButton(*button, parent); },
+                          [&](CheckBox *box) { return makeCheckBox(*box, parent); },
+                          [&](RadioButton *button) { return makeRadioButton(*button, parent); },
+                          [&](TextField *field) { return makeTextField(*field, parent); },
+                          [&](Label *label) { return makeLabel(*label, parent, look.scale); },
+                          [&](ProgressBar *bar) { return makeProgressBar(*bar, parent); },
+                          [&](Canvas *canvas) {
+                              return makePicture(look.pictures.find(canvas->Backdrop), parent);
+                          },
+                          [&](Separator *) { return makeSeparator(parent); },
+                          [&](PopupArrow *arrow) { return makeArrow(*arrow, parent); },
+                          [&](Listbox *) -> QWidget * { return new QListWidget(parent); },
+                      },
+                      control.kind());
+}
+
+/// A tool tip is taken for rich text where it looks like that, and breaks its lines at blanks
+/// alone: paths shall do neither.
+QString toolTipOf(const QString &hint) {
+    constexpr QChar kMayBreak(0x200B);
+    return hint.isEmpty() ? hint
+                          : Qt::convertFromPlainText(
+                                QString(hint).replace(u'/', QStringLiteral("/") + kMayBreak));
 }
 
 /// Paints at once what is marked as changed in the widget's window: nothing, when nothing is.
@@ -88,24 +81,19 @@ void paintNow(QWidget *widget) {
 
 } // namespace
 
-void tellRole(QWidget *widget, QAccessible::Role role) {
-    QAccessible::installFactory(interfaceByRole);
-    widget->setProperty(kRole, role);
-}
-
 QWidget *makeWidget(Control &control, QWidget *parent, const Look &look) {
     QWidget *widget = widgetOfKind(control, parent, look);
     widget->setStyle(&look.style);
+    widget->setAcceptDrops(false); // which text fields do otherwise
     widget->setObjectName(toQt(control.Name));
     widget->setGeometry(
         look.scale.pixels(QRect(control.Left, control.Top, control.Width, control.Height)));
     if (!control.accessibleName.empty())
         widget->setAccessibleName(toQt(control.accessibleName));
     follow(control.hint, widget, [&control, widget] {
-        widget->setToolTip(toQt(control.hint));
+        widget->setToolTip(toolTipOf(toQt(control.hint)));
         widget->setAccessibleDescription(toQt(control.hint));
     });
-    follow(control.Enabled, widget, [&control, widget] { widget->setEnabled(control.Enabled); });
     control.repaint = [alive = QPointer<QWidget>(widget)](bool immediately) {
         if (alive && immediately)
             paintNow(alive);

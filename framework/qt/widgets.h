@@ -4,11 +4,13 @@
 #include "framework/qt/pictures.h"
 #include "framework/windows/controls.h"
 
-#include <QAccessible>
 #include <QPointer>
 #include <QWidget>
 
 namespace norvane {
+
+/// Milliseconds until what has to wait for an action's end asks again.
+inline constexpr int kAskAgain = 50;
 
 /// What all windows of a desktop share.
 struct Look {
@@ -19,13 +21,9 @@ struct Look {
 
 /// Makes the widget of a control: at the control's place in `parent`, showing the control's state
 /// from now on, and handing the user's changes to it under the guard. The control must outlive all
-/// input to the widget; the widget may go first. Whether it is visible is the window's affair.
-/// Throws std::logic_error for a control of a kind that has no widget.
+/// input to the widget; the widget may go first. Whether it is visible and enabled is the window's
+/// affair.
 QWidget *makeWidget(Control &control, QWidget *parent, const Look &look);
-
-/// Names the kind of a widget to screen readers, where they could not tell it by themselves. Before
-/// anything asks for it.
-void tellRole(QWidget *widget, QAccessible::Role role);
 
 // The widgets of the kinds, without what all kinds share.
 QWidget *makeButton(BevelButton &button, QWidget *parent);

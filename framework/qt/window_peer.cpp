@@ -1,7 +1,9 @@
 #include "framework/qt/window_peer.h"
 
+#include "framework/qt/accessibility.h"
 #include "framework/qt/qt_text.h"
 #include "framework/qt/widgets.h"
+#include "framework/windows/guard.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -36,8 +38,12 @@ bool fits(const QLabel &label, int room) {
     return label.heightForWidth(room) - emptyEnd <= label.height();
 }
 
-/// Whether the caption of a check box or radio button has the room for it.
+/// Whether the caption of a button has the room for it.
 bool fitsItself(const QAbstractButton &button) {
+    constexpr int kBorder = 2; // of a button that is pushed
+    if (!button.isCheckable())
+        return button.fontMetrics().horizontalAdvance(button.text()) <=
+               button.width() - 2 * kBorder;
     QStyleOptionButton option;
     option.initFrom(&button);
     const auto contents = qobject_cast<const QCheckBox *>(&button) != nullptr
@@ -47,13 +53,18 @@ bool fitsItself(const QAbstractButton &button) {
            button.style()->subElementRect(contents, &option, &button).width();
 }
 
-/// Sets the text of a widget closer, within reason, until it fits.
+/// Sets the text of a widget closer, within reason, and then smaller, until it fits.
 template <class Fits>
 void tighten(QWidget &widget, Fits fits) {
     constexpr int kTightest = 90; // percent
+    constexpr int kSmallest = 8;  // pixels
     QFont font = widget.font();
     for (int percent = 99; percent >= kTightest && !fits(); --percent) {
         font.setLetterSpacing(QFont::PercentageSpacing, percent);
+        widget.setFont(font);
+    }
+    for (int pixels = font.pixelSize() - 1; pixels >= kSmallest && !fits(); --pixels) {
+        font.setPixelSize(pixels);
         widget.setFont(font);
     }
 }
@@ -63,8 +74,10 @@ void tighten(QWidget &widget, Fits fits) {
 WindowPeer::WindowPeer(Window &window, Application &application, const Look &look,
                        std::function<void()> quit)
     : QWidget(nullptr, flagsOf(window)), window_(window), look_(look) {
-    setWindowTitle(toQt(window.Title));
     tellRole(this, QAccessible::Window);
+    setWindowTitle(toQt(window.Title));
+    closing_.setSingleShot(true);
+    connect(&closing_, &QTimer::timeout, this, [this] { closeWhenIdle(); });
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     if (window.MenuBar != nullptr && window.MenuBarVisible) {
@@ -94,7 +107,8 @@ void WindowPeer::addControls() {
     for (Control *control : window_.controls()) {
         QWidget *widget = makeWidget(*control, area_, look_);
         placed_.push_back({control, widget});
-        follow(control->Visible, widget, [this] { showWhatIsInView(); });
+        for (Property<bool> *state : {&control->Visible, &control->Enabled})
+            follow(*state, widget, [this] { showWhatIsInView(); });
     }
 }
 
@@ -103,7 +117,7 @@ void WindowPeer::keepLabelsClear() {
     constexpr int kGap = 3;
     for (const Placed &placed : placed_) {
         auto *button = qobject_cast<QAbstractButton *>(placed.widget);
-        if (button != nullptr && button->isCheckable())
+        if (button != nullptr)
             tighten(*button, [button] { return fitsItself(*button); });
         auto *label = qobject_cast<QLabel *>(placed.widget);
         if (label == nullptr)
@@ -133,7 +147,9 @@ void WindowPeer::showWhatIsInView() {
     const QRect area(QPoint(0, 0), sizeInPixels());
     for (const auto &[control, widget] : placed_) {
         const bool wasVisible = widget->isVisible();
-        widget->setVisible(control->Visible && area.intersects(widget->geometry()));
+        const bool isInView = control->Visible && area.intersects(widget->geometry());
+        widget->setEnabled(isInView && control->Enabled);
+        widget->setVisible(isInView);
         if (!wasVisible)
             widget->update(); // which a Refresh paints; showing alone waits for the event loop
     }
@@ -186,7 +202,7 @@ void WindowPeer::mousePressEvent(QMouseEvent *event) {
     const int around = look_.scale.pixels(4);
     const QPoint point = area_->mapFrom(this, event->position().toPoint());
     for (const auto &[control, widget] : placed_) {
-        if (dynamic_cast<const PopupArrow *>(control) != nullptr && widget->isVisible() &&
+        if (std::holds_alternative<PopupArrow *>(control->kind()) && widget->isVisible() &&
             widget->geometry().marginsAdded({around, around, around, around}).contains(point)) {
             widget->setFocus(Qt::MouseFocusReason);
             qobject_cast<QAbstractButton *>(widget)->click();
@@ -195,12 +211,16 @@ void WindowPeer::mousePressEvent(QMouseEvent *event) {
 }
 
 void WindowPeer::closeEvent(QCloseEvent *event) {
-    // A dialog stands in the middle of an action, which still needs the window.
-    if (QApplication::activeModalWidget() != nullptr) {
-        event->ignore();
-        return;
-    }
-    window_.Close();
+    event->ignore();
+    closeWhenIdle();
+}
+
+/// An action at work, in whose message or dialog this may be asked, still needs the window.
+void WindowPeer::closeWhenIdle() {
+    if (actionAtWork())
+        closing_.start(kAskAgain);
+    else if (isVisible()) // hidden: window_ may be gone
+        window_.Close();
 }
 
 } // namespace norvane

@@ -10,6 +10,8 @@ namespace norvane {
 
 namespace {
 
+int actionsAtWork = 0; // those that raised one another
+
 void tell(const std::string &what) {
     Desktop::current().failure("This could not be finished: " + what);
 }
@@ -19,6 +21,10 @@ void tell(const std::string &what) {
 void guarded(const std::function<void()> &action) {
     if (!action)
         return;
+    const struct AtWork {
+        AtWork() { ++actionsAtWork; }
+        ~AtWork() { --actionsAtWork; }
+    } atWork;
     try {
         action();
     } catch (const RuntimeException &failure) {
@@ -30,6 +36,10 @@ void guarded(const std::function<void()> &action) {
     } catch (...) {
         tell("an internal error occurred.");
     }
+}
+
+bool actionAtWork() {
+    return actionsAtWork > 0;
 }
 
 } // namespace norvane

@@ -9,4 +9,8 @@ namespace norvane {
 /// empty `action` does nothing.
 void guarded(const std::function<void()> &action);
 
+/// Whether an action has begun and not ended: whoever asks for another one meanwhile, or for the
+/// end of a window, has to wait.
+bool actionAtWork();
+
 } // namespace norvane

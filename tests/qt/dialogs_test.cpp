@@ -1,8 +1,10 @@
 #include "tests/qt/desk.h"
 
 #include <QAbstractButton>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <csignal>
 #include <unistd.h>
@@ -49,6 +51,7 @@ TEST_F(DialogsAndDesktop, NamesArriveAsTheyAre) {
     std::filesystem::create_directory(folder.path("linked"));
     std::filesystem::create_symlink("linked", folder.path("in \"d\""));
     EXPECT_EQ(lchown(folder.path("in \"d\"").c_str(), 1, 1), geteuid() == 0 ? 0 : -1);
+    click("PopupArrow1");
     answerPath(folder.path("in \"d\""));
     click("BevelButton6");
     EXPECT_EQ(window().hotFolder, folder.path("in \"d\"/"));
@@ -64,6 +67,19 @@ TEST_F(DialogsAndDesktop, TheFinalNameIsWhatIsReplaced) {
     cancel();
     click("BevelButton1");
     EXPECT_EQ(std::exchange(messages, {}), Lines{"“" + folder.path("none") + "” is not a folder."});
+    const std::string longName(252, 'n');
+    answerPath(folder.path("a.scc"));
+    answerPath(folder.path(longName)); // with its extension too long by one
+    confirm();
+    answers([](QWidget &dialog) {
+        dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(QString(300, u'n'));
+        dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+    });
+    confirm();
+    cancel();
+    click("BevelButton1");
+    for (const std::string &message : std::exchange(messages, {}))
+        EXPECT_NE(message.find("File name too long"), std::string::npos) << message;
     setOpener("echo \"$1\" >\"$0.told\"");
     answerPath(folder.path("a.scc"));
     answerPath(folder.path("plain"));
@@ -79,7 +95,7 @@ TEST_F(DialogsAndDesktop, TheFinalNameIsWhatIsReplaced) {
             cancel();
         click("BevelButton1");
         EXPECT_EQ(folder.read("old.txt").empty(), choice == QMessageBox::No);
-        EXPECT_EQ(messages.back(), "“old.txt” is there already. Shall it be replaced?");
+        EXPECT_EQ(messages.back(), "“old.txt” already exists. Replace it?");
     }
     EXPECT_EQ(folder.read("old.txt"), folder.read("plain.txt"));
     EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -98,6 +114,9 @@ TEST_F(DialogsAndDesktop, WhatTheDesktopCannotOpenIsTold) {
         EXPECT_EQ(messages.back(),
                   "The desktop has no program that opens this page:\nfile:///a%20page");
     }
+    setOpener("sleep 3.2; exit 1"); // has found a program, which failed later
+    ShowURL("file:///a%20page");
+    QTest::qWait(3500);
     EXPECT_EQ(messages.size(), 3U);
 }
 

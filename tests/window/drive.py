@@ -82,12 +82,15 @@ class Node:
                            self.call("Accessible.GetChildren"))
         return [Node(*child) for child in found]
 
-    def name(self):
+    def property(self, name):
         text = output("gdbus", "call", "--address", Node.bus, "--dest", self.owner, "--object-path",
                       self.path, "--method", "org.freedesktop.DBus.Properties.Get",
-                      "org.a11y.atspi.Accessible", "Name")
+                      "org.a11y.atspi.Accessible", name)
         match = re.fullmatch(r"""\(<(['"])(.*)\1>,\)""", text)
         return match.group(2).replace("\\n", "\n").replace("\\'", "'") if match else ""
+
+    def name(self):
+        return self.property("Name")
 
     def place(self):
         numbers = re.findall(r"-?\d+", self.call("Component.GetExtents", "0").replace("uint32", ""))
@@ -103,7 +106,7 @@ class Node:
 
     def act(self):
         """What a screen reader's user does with it: press a button, toggle a box."""
-        self.call("Action.DoAction", "0")
+        check("an action returns at once", self.call("Action.DoAction", "0"), "(true,)")
 
     def descendant(self, name, role=""):
         for child in self.children():
@@ -256,6 +259,17 @@ def without_a_mouse(build, folder):
         target.unlink()
 
     program = Program(f"{build}/shell/norvane")
+
+    def check_unwritten(name):
+        field = program.node.descendant(name, "text")
+        before = field.call("Text.GetText", "0", "-1")
+        field.call("EditableText.SetTextContents", "7")
+        check(f"{name} stays as it is", field.call("Text.GetText", "0", "-1"), before)
+
+    for hidden in ("Browse for the watch folder", "Decode Watch Folder Files"):
+        program.act(hidden)
+    check_unwritten("Minutes between two checks for files")
+    program.no_dialog()
     program.decode(source, target, lambda name: xdotool("key", "Return"))
     check_transcript("timecode")
     xdotool("key", "Tab", "Tab", "Tab", "space", "shift+Tab", "shift+Tab", "shift+Tab")
@@ -267,11 +281,19 @@ def without_a_mouse(build, folder):
     program.act("Include Timecode")
     decode_by_bus(program, source, target)
     check_transcript("line")
-    program.act("Watch folder settings")
-    program.act("Decode Watch Folder Files")
-    program.dialog("Norvane")
-    xdotool("key", "Escape")
-    program.no_dialog()
+    arrow = program.node.descendant("Watch folder settings")
+    check("the arrow tells that it is folded", arrow.property("Description")[:9], "Collapsed")
+    arrow.act()
+    wait_for("the arrow tells that it is unfolded",
+             lambda: arrow.property("Description").startswith("Expanded"))
+    for message in ("Decode Watch Folder Files", "Help on the watch folder"):
+        program.act(message)
+        program.dialog("Norvane")
+        program.act("Help on unbuffered timecode") # which has to wait for its user
+        xdotool("key", "Escape")
+        program.no_dialog()
+    for folder_field in ("Watch folder", "Destination folder"):
+        check_unwritten(folder_field)
 
     minutes = program.node.descendant("Minutes between two checks for files")
     minutes.call("Component.GrabFocus")
@@ -309,6 +331,7 @@ def reading_is_seen(build, folder):
         check("the program reads", program.process.poll(), None)
     program.process.send_signal(signal.SIGSTOP)
     now = picture(program.window)
+    xdotool("key", "ctrl+q") # which comes when the action has ended
     program.process.send_signal(signal.SIGCONT)
     top, left = program.menu_bar, slice(0, 3 * 430)
     same = [row[left] == old[left] for row, old in zip(now, before)]
@@ -318,8 +341,6 @@ def reading_is_seen(build, folder):
     check("the bar is empty", bar[3 * 30:3 * 300], bar[3 * 30:3 * 31] * 270)
     program.dialog("Save")
     xdotool("key", "Escape")
-    program.no_dialog()
-    xdotool("key", "ctrl+q")
     program.ends()
     source.unlink()
 

@@ -28,7 +28,7 @@ for number, before, after in ((signal.SIGTERM, None, DESIGN), (signal.SIGINT, CH
         if before:
             preferences.write_text(before)
         program = subprocess.Popen([sys.argv[1]], stderr=subprocess.DEVNULL, env={
-            **os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_CONFIG_HOME": folder})
+            **os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_CONFIG_HOME": folder, "XDG_RUNTIME_DIR": folder})
         while not caught(program) >> (number - 1) & 1:
             assert program.poll() is None, f"ended by itself: {program.returncode}"
             time.sleep(0.01)

@@ -1,6 +1,7 @@
 #include "bench/made_scc.h"
 #include "decode/caption.h"
 #include "decode/chain_table.h"
+#include "framework/files/system_calls.h"
 #include "framework/headless/headless_desktop.h"
 #include "shell/window1.h"
 #include "tests/support/plain_road.h"
@@ -9,6 +10,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <filesystem>
+#include <fstream>
 #include <vector>
 
 namespace norvane {
@@ -104,38 +107,24 @@ BENCHMARK_CAPTURE(oneLine, keysMadeByDeletion, "949420209480ae9194ae31")
 BENCHMARK_CAPTURE(oneLine, beginningsOfKeys, "9")->Arg(kMega)->Arg(4 * kMega);
 BENCHMARK_CAPTURE(oneLine, accents, "13b9ad")->Arg(kMega)->Arg(4 * kMega);
 
-/// From the bytes of a file in memory to the bytes of its transcript, which go nowhere.
+/// From a file to its transcript, neither of which has to last.
 void fileToTranscript(benchmark::State &state) {
-    class Nowhere : public TextSink {
-      public:
-        void write(std::string_view bytes) override { benchmark::DoNotOptimize(bytes.data()); }
-        void commit() override {}
-    };
-    class InMemory : public FolderItem {
-      public:
-        explicit InMemory(const std::string *text) : FolderItem("/memory.scc"), text_(text) {}
-        Ref<TextInputStream> OpenAsTextFile() const override {
-            Bytes bytes(text_->size());
-            std::copy(text_->begin(), text_->end(), bytes.rest());
-            bytes.fill(text_->size());
-            return Ref(std::make_shared<TextInputStream>(std::move(bytes)));
-        }
-        Ref<TextOutputStream> CreateTextFile() const override {
-            return Ref(std::make_shared<TextOutputStream>(std::make_unique<Nowhere>()));
-        }
-
-      private:
-        const std::string *text_;
-    };
     HeadlessDesktop desktop;
     Window1 window;
     const std::string text = made::scc(made::Kind::film, 10'000'000);
-    const Ref<FolderItem> item{std::shared_ptr<FolderItem>(std::make_shared<InMemory>(&text))};
+    const std::filesystem::path folder = std::filesystem::temp_directory_path();
+    const std::string film = folder / "norvane-bench.scc";
+    const std::string transcript = folder / "norvane-bench.txt";
+    std::ofstream(film, std::ios::binary) << text;
+    disk::systemCalls.fsync = {[](int) { return 0; }};
     for (auto _ : state) {
-        desktop.answerFile(item);
-        desktop.answerSave(item);
+        desktop.answerFile(GetFolderItem(film));
+        desktop.answerSave(GetFolderItem(transcript));
         window.importSCC();
     }
+    disk::systemCalls = {};
+    std::filesystem::remove(film);
+    std::filesystem::remove(transcript);
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(fileToTranscript)->Unit(benchmark::kMillisecond);

@@ -1,14 +1,13 @@
 #include "command/input.h"
 
+#include "command/report_files.h"
 #include "explain/checks/film_transcript.h"
+#include "framework/files/file_failure.h"
 #include "framework/text/text.h"
 
-#include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <new>
-#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -16,24 +15,23 @@ namespace norvane {
 
 namespace {
 
-constexpr const char *kStandardInput = "-";
-constexpr const char *kStandardInputName = "stdin";
 constexpr std::size_t kBlock = std::size_t{1} << 15U;
 
+/// Whether a path stands for what a shell hands over without a name.
+bool isNameless(const std::string &path) {
+    return path == "-" || path == "/dev/stdin" || path.starts_with("/dev/fd/") ||
+           path.starts_with("/proc/self/fd/");
+}
+
 disk::InputFile openFile(const std::string &path) {
-    const std::string absolute = absolutePath(path);
-    std::string problem;
-    disk::InputFile file(absolute, problem);
-    if (file.isOpen())
-        return file;
-    // What tells it has the file's name in front already.
-    const std::string named = inQuotes(absolute) + " ";
-    if (problem.starts_with(named))
-        problem.erase(0, named.size());
-    throw Problem{problem, disk::kindOf(absolute, disk::Kind::other) == disk::Kind::folder
-                               ? "Name its files: " + printable(path) +
-                                     (path.ends_with('/') ? "*.scc" : "/*.scc")
-                               : ""};
+    try {
+        return path == "-" ? disk::InputFile::standardInput() : disk::InputFile::named(path);
+    } catch (const FileFailure &failure) {
+        const bool isFolder = failure.error() == 0 && path != "-";
+        throw Problem(failure.reason(), isFolder ? "Name its files: " + printable(path) +
+                                                       (path.ends_with('/') ? "*.scc" : "/*.scc")
+                                                 : "");
+    }
 }
 
 } // namespace
@@ -42,37 +40,27 @@ std::string absolutePath(const std::string &path) {
     std::error_code error;
     std::string absolute = std::filesystem::absolute(path, error).string();
     if (path.empty() || error)
-        throw Problem{"cannot be found."};
+        throw Problem("cannot be found.");
     return absolute;
 }
 
-std::string shownName(const std::string &path) {
-    return path == kStandardInput ? kStandardInputName : printable(path);
+std::string shownName(const std::string &path, const Options &options) {
+    return path.empty() ? "''" : printable(isNameless(path) ? options.stdinName : path);
 }
 
-Input::Input(const std::string &path)
-    : name_(path == kStandardInput ? kStandardInputName : path.substr(path.rfind('/') + 1)),
-      bytes_(kBlock) {
-    if (path == kStandardInput) {
-        struct stat status {};
-        const off_t start = lseek(STDIN_FILENO, 0, SEEK_CUR);
-        if (fstat(STDIN_FILENO, &status) == 0 && S_ISREG(status.st_mode) && start >= 0)
-            left_ = static_cast<std::size_t>(std::max(status.st_size - start, off_t{0}));
-        return;
-    }
-    file_ = openFile(path);
-    requireSccName(name_, "pipe it in");
+Input::Input(const std::string &path, const Options &options)
+    : name_(isNameless(path) ? options.stdinName : path), file_(openFile(path)), bytes_(kBlock) {
+    name_.erase(0, name_.rfind('/') + 1);
+    if (file_.isRegular() && !isNameless(path))
+        requireSccName(name_, "pipe it in");
 }
 
 bool Input::readSome() {
-    if (file_)
-        return file_->readSome(bytes_);
-    const ssize_t count = read(STDIN_FILENO, bytes_.rest(), std::min(bytes_.restSize(), left_));
-    if (count < 0)
-        throw Problem{"cannot be read: " + std::generic_category().message(errno) + "."};
-    bytes_.fill(static_cast<std::size_t>(count));
-    left_ -= static_cast<std::size_t>(count);
-    return count > 0;
+    try {
+        return file_.readSome(bytes_);
+    } catch (const FileFailure &failure) {
+        throw Problem(failure.reason());
+    }
 }
 
 /// Reads as much as there is already and more, so that no byte of a long line is looked at often.
@@ -107,32 +95,28 @@ std::string_view Input::all() {
     return bytes_.view();
 }
 
-void tell(const std::string &shownFile, const Problem &problem) {
-    const std::string place = problem.line == 0 ? "" : std::to_string(problem.line) + ": ";
+void tell(const std::string &shownFile, const Problem &problem, bool json) {
+    const std::string place =
+        problem.line == 0 ? "norvane-transcript: " + shownFile + (shownFile.empty() ? "" : ": ")
+                          : shownFile + ":" + std::to_string(problem.line) + ": ";
     const std::string help = problem.help.empty() ? "" : "  " + problem.help + "\n";
-    std::fputs(
-        (shownFile + ":" + (place.empty() ? " " : "") + place + problem.text + "\n" + help).c_str(),
-        stderr);
+    std::fputs((place + problem.what() + "\n" + help).c_str(), stderr);
+    if (json)
+        disk::writeAll(STDOUT_FILENO, jsonOf(problem, shownFile), "standard output");
 }
 
-bool doAndTell(const std::string &shownFile, const std::function<void()> &work) {
+bool doAndTell(const std::string &shownFile, const std::function<void()> &work, bool json) {
     try {
         work();
         return true;
     } catch (const Problem &problem) {
-        tell(shownFile, problem);
+        tell(shownFile, problem, json);
     } catch (const std::bad_alloc &) {
-        tell(shownFile, {"there is not enough memory."});
+        tell(shownFile, Problem("there is not enough memory."), json);
     } catch (const std::exception &failure) {
-        tell(shownFile, {failure.what()});
+        tell(shownFile, Problem(failure.what()), json);
     }
     return false;
-}
-
-bool inputIsPiped() {
-    struct stat status {};
-    return fstat(STDIN_FILENO, &status) == 0 &&
-           (S_ISFIFO(status.st_mode) || S_ISREG(status.st_mode));
 }
 
 } // namespace norvane

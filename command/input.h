@@ -1,13 +1,12 @@
 #pragma once
 
+#include "command/options.h"
 #include "explain/checks/problem.h"
 #include "framework/files/bytes.h"
 #include "framework/files/disk.h"
 #include "framework/text/line_reader.h"
 
-#include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,19 +16,15 @@ namespace norvane {
 /// in the processor's cache, however long the file is.
 class Input {
   public:
-    /// Opens `path`, or standard input when it is "-". Throws Problem.
-    explicit Input(const std::string &path);
+    /// Opens `path`, or standard input when it is "-". Pipes are read as standard input is. Throws
+    /// Problem.
+    Input(const std::string &path, const Options &options);
 
     const std::string &name() const { return name_; } // without its folder
-
-    /// Bytes of the file when it was opened; 0 where nobody knows.
-    std::size_t size() const { return file_ ? file_->size() : 0; }
-
-    /// Null for standard input.
-    const disk::InputFile *file() const { return file_ ? &*file_ : nullptr; }
+    const disk::InputFile &file() const { return file_; }
 
     /// The next line that is not empty; the empty text at the end. It holds until the next call.
-    /// Throws Problem and IOException.
+    /// Throws Problem.
     std::string_view nextLine();
     std::size_t lineNumber() const { return lines_.number(); } // from 1, empty ones counted
 
@@ -43,27 +38,24 @@ class Input {
     void readOn();
 
     std::string name_;
-    std::optional<disk::InputFile> file_{}; // nothing for standard input
+    disk::InputFile file_;
     Bytes bytes_;
     LineReader lines_{std::string_view()};
     bool ended_ = false;
-    std::size_t left_ = SIZE_MAX; // of standard input, where its size was known at the start
 };
 
 /// A path as the file system wants it. Throws Problem for the empty one.
 std::string absolutePath(const std::string &path);
 
 /// What messages call a file of the command line, without control characters.
-std::string shownName(const std::string &path);
+std::string shownName(const std::string &path, const Options &options);
 
-/// Prints a problem of a file to standard error.
-void tell(const std::string &shownFile, const Problem &problem);
+/// Prints a problem, of a file unless its name is empty, to standard error, and with `json` as an
+/// object to standard output.
+void tell(const std::string &shownFile, const Problem &problem, bool json = false);
 
 /// Does `work`. What it throws is told as a problem of `shownFile`, a text that it may change.
 /// Whether it threw nothing.
-bool doAndTell(const std::string &shownFile, const std::function<void()> &work);
-
-/// Whether something can be read from standard input that nobody types.
-bool inputIsPiped();
+bool doAndTell(const std::string &shownFile, const std::function<void()> &work, bool json = false);
 
 } // namespace norvane

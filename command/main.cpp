@@ -6,64 +6,67 @@
 #include "framework/files/disk.h"
 #include "framework/text/text.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <exception>
 
 namespace norvane {
 namespace {
 
-/// Whether all was well with a file of the command line.
-bool doTask(const std::string &argument, const Options &options) {
-    std::string shown = shownName(argument);
+constexpr int kFailed = 1;
+constexpr int kTrouble = 2; // of a check, which has 1 for findings
+
+/// Does what is asked for with a file of the command line; gives an exit status.
+int doTask(const std::string &argument, const Options &options) {
+    std::string shown = shownName(argument, options);
     bool isClean = true;
-    const bool isDone = doAndTell(shown, [&] {
+    const auto work = [&] {
         const Place place = options.task == Task::explain ? placeOf(argument) : Place{argument};
-        shown = shownName(place.path);
+        shown = shownName(place.path, options);
         if (options.task == Task::check)
             isClean = checkFile(place.path, options);
         else if (options.task == Task::explain)
             explainFile(place, options);
         else
             transcribe(place.path, options);
-    });
-    return isDone && isClean;
+    };
+    if (!doAndTell(shown, work, options.json))
+        return options.task == Task::transcribe ? kFailed : kTrouble;
+    return isClean ? 0 : kFailed;
 }
 
-bool makeOutputFolder(const std::string &path) {
-    try {
-        const std::string folder = absolutePath(path);
-        disk::makeFolders(folder);
-        if (disk::kindOf(folder, disk::Kind::other) == disk::Kind::folder)
-            return true;
-        tell(printable(path), {"is not a folder and cannot be made one."});
-    } catch (const Problem &problem) {
-        tell(printable(path), problem);
-    }
-    return false;
+void makeOutputFolder(const std::string &path) {
+    const std::string folder = absolutePath(path);
+    disk::makeFolders(folder);
+    if (disk::kindOf(folder, disk::Kind::other) != disk::Kind::folder)
+        throw Problem("is not a folder and cannot be made one.");
 }
 
 int run(const Options &options) {
-    if (!options.outputFolder.empty() && !makeOutputFolder(options.outputFolder))
-        return 1;
-    if (options.summary && !options.json &&
-        !doAndTell("norvane-transcript", [] { printSummaryHead(); }))
-        return 1;
-    bool allWell = true;
+    if (!options.outputFolder.empty() && !doAndTell(printable(options.outputFolder), [&] {
+            makeOutputFolder(options.outputFolder);
+        }))
+        return kFailed;
+    if (options.summary && !options.json && !doAndTell("", [] { printSummaryHead(); }))
+        return kTrouble;
+    int status = 0;
     for (const std::string &file : options.files)
-        allWell = doTask(file, options) && allWell;
-    return allWell ? 0 : 1;
+        status = std::max(status, doTask(file, options));
+    return status;
 }
 
 /// The options that the program was called with, those in files among them. Wrong usage is told.
 Options optionsOf(int count, char **arguments) {
     Options options;
     options.exitStatus = 2;
-    doAndTell("norvane-transcript", [&] {
+    doAndTell("", [&] {
         std::vector<std::string> all = withOptionFiles(count, arguments);
         std::vector<char *> pointers;
         for (std::string &argument : all)
             pointers.push_back(argument.data());
         pointers.push_back(nullptr); // as the system has it
-        options = readOptions(static_cast<int>(all.size()), pointers.data(), inputIsPiped());
+        options = readOptions(static_cast<int>(all.size()), pointers.data(),
+                              disk::standardInputIsPiped());
     });
     return options;
 }
@@ -81,9 +84,15 @@ int answer(const Options &options) {
 } // namespace norvane
 
 int main(int argc, char **argv) {
-    norvane::disk::surviveSizeLimits();
-    const norvane::Options options = norvane::optionsOf(argc, argv);
-    if (!options.answer.empty())
-        return norvane::answer(options);
-    return options.files.empty() ? options.exitStatus : norvane::run(options);
+    using namespace norvane;
+    disk::surviveSizeLimits();
+    try {
+        const Options options = optionsOf(argc, argv);
+        if (!options.answer.empty())
+            return answer(options);
+        return options.files.empty() ? options.exitStatus : run(options);
+    } catch (const std::exception &failure) { // of what tells failures
+        std::fprintf(stderr, "norvane-transcript: %s\n", failure.what());
+        return kFailed;
+    }
 }

@@ -1,6 +1,7 @@
 #include "command/option_file.h"
 
 #include "command/input.h"
+#include "framework/files/file_failure.h"
 #include "framework/text/line_reader.h"
 #include "framework/text/text.h"
 
@@ -16,16 +17,16 @@ std::string_view trimmed(std::string_view text) {
                : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-void appendOptions(const std::string &path, std::vector<std::string> &arguments) {
-    std::string problem;
-    disk::InputFile file(absolutePath(path), problem);
-    if (!file.isOpen()) {
-        const std::string named = inQuotes(absolutePath(path)) + " "; // in front of it already
-        if (problem.starts_with(named))
-            problem.erase(0, named.size());
-        throw Problem{"@" + printable(path) + " " + problem};
+Bytes contentOf(const std::string &path) {
+    try {
+        return disk::InputFile(absolutePath(path), Links::all).readAll();
+    } catch (const FileFailure &failure) {
+        throw Problem("@" + printable(path) + " " + failure.reason());
     }
-    const Bytes bytes = file.readAll();
+}
+
+void appendOptions(const std::string &path, std::vector<std::string> &arguments) {
+    const Bytes bytes = contentOf(path);
     LineReader lines(bytes.view());
     for (auto line = lines.nextNotEmpty(); !line.empty(); line = lines.nextNotEmpty()) {
         line = trimmed(line);

@@ -23,9 +23,12 @@ constexpr const char *kUsage =
     "  --form timecode|line|paragraph  how captions are laid out (timecode)\n"
     "  --clock unbuffered|scc          start times corrected for the buffer, or as the\n"
     "                                  file has them (unbuffered)\n"
+    "  --no-heading                    leave out the heading, which names the file\n"
+    "  -o FILE                         write FILE, not standard output\n"
     "  --output-dir DIR                write DIR/NAME.txt for each file, not standard output;\n"
     "                                  NAME is the file's name up to its first point\n"
     "  --force                         replace transcripts that exist already\n"
+    "  --stdin-name NAME               what to call standard input (stdin)\n"
     "  --explain                       for each data line, or for LINE alone: its words, what\n"
     "                                  they mean, what became of them, what to do\n"
     "  --check                         print what is wrong with each file: FILE:LINE: KIND: text;\n"
@@ -46,13 +49,15 @@ constexpr const char *kUsageBehindKinds =
     "  --help, -h                      print this and exit\n"
     "  --version                       print the version and exit\n"
     "\n"
-    "Exit status: 0 when all went well, 1 when a file failed or a check found something, 2 for\n"
-    "wrong usage.\n";
+    "Exit status: 0 when all went well, 1 when a transcript failed or a check found something, 2\n"
+    "for wrong usage and when --check or --explain could not read a file.\n";
 
 /// Beyond the characters, so that getopt_long tells these from one-letter options.
 enum Found {
     form = 256,
     clock,
+    noHeading,
+    stdinName,
     outputFolder,
     force,
     explain,
@@ -68,8 +73,10 @@ enum Found {
 constexpr auto kOptions = std::to_array<option>({
     {"form", required_argument, nullptr, form},
     {"clock", required_argument, nullptr, clock},
+    {"no-heading", no_argument, nullptr, noHeading},
     {"output-dir", required_argument, nullptr, outputFolder},
     {"force", no_argument, nullptr, force},
+    {"stdin-name", required_argument, nullptr, stdinName},
     {"explain", no_argument, nullptr, explain},
     {"check", no_argument, nullptr, check},
     {"each", no_argument, nullptr, each},
@@ -130,10 +137,20 @@ std::string suggestion(std::string_view word, const Words &words, std::string_vi
 
 std::string unknownOption(std::string_view argument) {
     std::vector<std::string_view> names;
+    std::string candidates; // of which it is the beginning
+    std::size_t count = 0;
     for (const option &known : kOptions) {
-        if (known.name != nullptr)
-            names.emplace_back(known.name);
+        if (known.name == nullptr)
+            continue;
+        names.emplace_back(known.name);
+        const std::string name = std::string("--") + known.name;
+        if (!argument.starts_with("--") ||
+            !name.starts_with(argument.substr(0, argument.find('='))))
+            continue;
+        candidates += (count++ == 0 ? "'" : ", '") + name + "'";
     }
+    if (count > 1)
+        return "option '" + printable(argument) + "' is short for more than one: " + candidates;
     std::string message = "unknown option '" + printable(argument) + "'";
     if (argument.starts_with("--")) {
         argument.remove_prefix(2);
@@ -225,6 +242,15 @@ std::string take(int found, const std::string &value, Options &options) {
     case Found::outputFolder:
         options.outputFolder = value;
         return value.empty() ? "option '--output-dir' needs a value" : "";
+    case Found::noHeading:
+        options.heading = false;
+        return "";
+    case Found::stdinName:
+        options.stdinName = value;
+        return value.empty() ? "option '--stdin-name' needs a value" : "";
+    case 'o':
+        options.outputFile = value == "-" ? "" : value;
+        return value.empty() ? "option '-o' needs a value" : "";
     case Found::force:
         options.force = true;
         return "";
@@ -264,8 +290,15 @@ std::string contradiction(const Options &options) {
         return "--limit goes with --check";
     if (options.json && options.task == Task::transcribe)
         return "--json goes with --explain or --check";
-    if ((options.force || !options.outputFolder.empty()) && options.task != Task::transcribe)
-        return "--output-dir and --force are for transcripts alone";
+    const bool toFile = !options.outputFile.empty();
+    const bool toFolder = !options.outputFolder.empty();
+    if ((options.force || toFile || toFolder || !options.heading) &&
+        options.task != Task::transcribe)
+        return "-o, --output-dir, --force and --no-heading are for transcripts alone";
+    if (toFile && toFolder)
+        return "-o and --output-dir are two places";
+    if (toFile && options.files.size() > 1)
+        return "-o takes the transcript of one file; --output-dir takes those of all";
     return "";
 }
 
@@ -275,7 +308,7 @@ Options readOptions(int count, char **arguments, bool inputIsPiped) {
     Options options;
     opterr = 0;
     for (;;) {
-        const int found = getopt_long(count, arguments, ":h", kOptions.data(), nullptr);
+        const int found = getopt_long(count, arguments, ":ho:", kOptions.data(), nullptr);
         if (found < 0)
             break;
         if (found == 'h')

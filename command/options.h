@@ -16,7 +16,10 @@ struct Options {
     Task task = Task::transcribe;
     Form form = Form::timecode;
     Clock clock = Clock::unbuffered;
-    std::string outputFolder{}; // empty: standard output
+    bool heading = true;
+    std::string outputFolder{}; // this and outputFile empty: standard output
+    std::string outputFile{};
+    std::string stdinName = "stdin"; // what standard input is called
     bool force = false;
     bool json = false;
     CheckRules rules{};

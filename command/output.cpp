@@ -1,8 +1,10 @@
 #include "command/output.h"
 
 #include "command/input.h"
+#include "framework/files/file_failure.h"
 #include "framework/text/text.h"
 
+#include <cerrno>
 #include <csignal>
 
 namespace norvane {
@@ -34,23 +36,36 @@ std::string placeIn(const std::string &folder, const std::string &name) {
     return folder + (folder.ends_with('/') ? "" : "/") + name;
 }
 
+namespace {
+
+Problem existsAlready(const std::string &path) {
+    return Problem(inQuotes(path) + " exists already; --force replaces it.");
+}
+
+} // namespace
+
+void requireFree(const std::string &path, Links links) {
+    if (disk::kindOf(absolutePath(path), links) != disk::Kind::missing)
+        throw existsAlready(path);
+}
+
 void writeFile(const std::string &path, std::span<const std::string_view> parts,
-               const disk::InputFile *input, bool force, disk::Readers readers) {
-    const std::string absolute = absolutePath(path);
-    if (!force && disk::kindOf(absolute) != disk::Kind::missing)
-        throw Problem{inQuotes(path) + " exists already; --force replaces it."};
+               const disk::InputFile *input, bool force, disk::Readers readers, Links links) {
     const SignalsWait wait;
-    std::string problem;
-    disk::NewFile file(absolute, readers, problem);
-    if (!file.isOpen())
-        throw Problem{problem};
+    disk::NewFile file(absolutePath(path), readers, links);
     if (input != nullptr && file.replaces(*input))
-        throw Problem{inQuotes(path) + " is the input itself, which stays as it is."};
+        throw Problem(inQuotes(path) + " is the input itself, which stays as it is.");
     if (!force)
         file.mustBeNew();
     for (const std::string_view part : parts)
         file.write(part);
-    file.commit();
+    try {
+        file.commit();
+    } catch (const FileFailure &failure) {
+        if (failure.error() == EEXIST)
+            throw existsAlready(path);
+        throw;
+    }
 }
 
 } // namespace norvane

@@ -2,6 +2,7 @@
 
 #include "command/input.h"
 #include "explain/checks/check.h"
+#include "explain/reports/json.h"
 #include "explain/reports/report.h"
 #include "explain/reports/summary_report.h"
 #include "framework/files/disk.h"
@@ -43,9 +44,9 @@ void part(JsonWriter & /*json*/, bool /*isFirst*/) {}
 
 template <class Report>
 void explainWith(const Place &place, const Options &options) {
-    Input input(place.path);
+    Input input(place.path, options);
     const std::string_view text = input.all();
-    const std::string shown = shownName(place.path);
+    const std::string shown = shownName(place.path, options);
     FindingKinds ofFile = options.rules.wanted;
     for (const FindingKind kind : {FindingKind::digits, FindingKind::altered,     // the line's own
                                    FindingKind::neverErased, FindingKind::empty}) // the film's
@@ -71,7 +72,7 @@ void explainWith(const Place &place, const Options &options) {
         printer.printMuch();
     }
     if (isFirst)
-        throw Problem{"there is no such line, or nothing stands in it.", "", place.line};
+        throw Problem("there is no such line, or nothing stands in it.", "", place.line);
     printer.print();
 }
 
@@ -89,8 +90,8 @@ CheckResult checkInput(Input &input, const CheckRules &rules) {
 
 template <class Report>
 bool checkWith(const std::string &path, const Options &options) {
-    Input input(path);
-    const std::string shown = shownName(path);
+    Input input(path, options);
+    const std::string shown = shownName(path, options);
     const CheckResult result = checkInput(input, options.rules);
     Printer<Report> printer;
     if (options.summary) {
@@ -110,7 +111,7 @@ bool checkWith(const std::string &path, const Options &options) {
 Place placeOf(const std::string &argument) {
     const std::size_t colon = argument.rfind(':');
     if (colon == std::string::npos ||
-        disk::kindOf(absolutePath(argument), disk::Kind::other) != disk::Kind::missing)
+        disk::kindOf(absolutePath(argument), disk::Kind::other, Links::all) != disk::Kind::missing)
         return {argument};
     Place place{argument.substr(0, colon)};
     const char *const end = argument.data() + argument.size();
@@ -134,6 +135,18 @@ void printSummaryHead() {
 bool checkFile(const std::string &path, const Options &options) {
     return options.json ? checkWith<JsonWriter>(path, options)
                         : checkWith<TextReport>(path, options);
+}
+
+std::string jsonOf(const Problem &problem, const std::string &shownFile) {
+    JsonWriter json;
+    json.beginObject();
+    json.member("file", std::string_view(shownFile));
+    if (problem.line != 0)
+        json.member("line", problem.line);
+    json.member("error", problem.what());
+    json.endObject();
+    json.endLine();
+    return std::string(json.bytes());
 }
 
 } // namespace norvane

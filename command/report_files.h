@@ -1,6 +1,7 @@
 #pragma once
 
 #include "command/options.h"
+#include "explain/checks/problem.h"
 
 #include <string>
 
@@ -15,14 +16,17 @@ struct Place {
 /// Takes FILE[:LINE] apart. The whole is a file's name when there is a file of that name.
 Place placeOf(const std::string &argument);
 
-/// Prints explanations of the lines of a file, or of one of them. Throws Problem and IOException.
+/// Prints explanations of the lines of a file, or of one of them. Throws Problem and FileFailure.
 void explainFile(const Place &place, const Options &options);
 
 /// Prints the names of the columns of summaries.
 void printSummaryHead();
 
 /// Prints the findings on a file, or its summary. False when there are findings. Throws Problem and
-/// IOException.
+/// FileFailure.
 bool checkFile(const std::string &path, const Options &options);
+
+/// A problem of a file as a JSON object and its end of line.
+std::string jsonOf(const Problem &problem, const std::string &shownFile);
 
 } // namespace norvane

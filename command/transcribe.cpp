@@ -7,6 +7,7 @@
 #include "framework/text/text.h"
 
 #include <memory>
+#include <span>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -32,7 +33,7 @@ std::string roomFor(std::size_t bytes) {
 
 std::string bodyOf(Input &input, const Options &options) {
     FilmTranscript transcript(options.form, options.clock, input.beginning(),
-                              roomFor(input.size()));
+                              roomFor(input.file().size()));
     input.nextLine(); // the header
     for (auto kept = input.nextLine(); !kept.empty(); kept = input.nextLine())
         transcript.add(kept, input.lineNumber());
@@ -42,18 +43,28 @@ std::string bodyOf(Input &input, const Options &options) {
 } // namespace
 
 void transcribe(const std::string &path, const Options &options) {
-    Input input(path);
-    const std::string body = bodyOf(input, options);
+    Input input(path, options);
     const std::string baseName = baseNameOf(input.name());
     const std::string heading = headingOf(baseName);
-    const TranscriptPieces pieces = piecesOf(heading, body);
-    if (options.outputFolder.empty()) {
-        for (const std::string_view piece : pieces)
-            disk::writeAll(STDOUT_FILENO, piece, "standard output");
-    } else {
-        writeFile(placeIn(options.outputFolder, baseName + ".txt"), pieces, input.file(),
-                  options.force);
+    const bool isNamed = !options.outputFile.empty();
+    const std::string target = isNamed ? options.outputFile
+                               : options.outputFolder.empty()
+                                   ? ""
+                                   : placeIn(options.outputFolder, baseName + ".txt");
+    const Links links = isNamed ? Links::all : Links::trusted; // not what lies in the folder
+    if (!target.empty() && !options.force)
+        requireFree(target, links);
+
+    const std::string body = bodyOf(input, options);
+    const TranscriptPieces whole = piecesOf(heading, body);
+    constexpr std::size_t kHeadingAndItsEnds = 3;
+    const auto pieces = std::span(whole).subspan(options.heading ? 0 : kHeadingAndItsEnds);
+    if (!target.empty()) {
+        writeFile(target, pieces, &input.file(), options.force, disk::Readers::byUmask, links);
+        return;
     }
+    for (const std::string_view piece : pieces)
+        disk::writeAll(STDOUT_FILENO, piece, "standard output");
 }
 
 } // namespace norvane

@@ -63,7 +63,7 @@ void Window1::importSCCFolder() {
         DoTranscTimecodeFile();
         timeCodeArray.clear();
         sourceStream->Close();
-        sourceItem->Delete(); // kept: whether or not its copy could be made
+        sourceItem->Delete(*sourceStream); // kept: whether or not its copy could be made
     }
 }
 

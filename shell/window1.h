@@ -131,7 +131,7 @@ class Window1 : public Window {
     // transcript/writers.cpp, for all three writers
     std::string composeTranscript();
     void writeTranscript(const FolderItem &transcriptItem, const std::string &name,
-                         const std::string &transcriptText);
+                         const std::string &transcriptText, Existing existing = Existing::replaced);
     void hideProgress();
 
     // folders/hot_folder_control.cpp

@@ -115,8 +115,7 @@ TEST_F(Files, WhatCameSinceTheLookStays) {
         for (const bool comes : {false, true}) {
             ++name.back();
             const auto item = folder.item(name);
-            EXPECT_FALSE(item->Exists());
-            const auto stream = item->CreateTextFile();
+            const auto stream = item->CreateTextFile(Existing::stays);
             stream->WriteLine("mine");
             if (comes)
                 folder.write(name, "theirs");
@@ -135,11 +134,12 @@ TEST_F(Files, WhatCameSinceTheLookStays) {
     for (const bool replaced : {false, true}) {
         folder.write("input", "old");
         const auto item = folder.item("input");
-        item->OpenAsTextFile();
+        const auto stream = item->OpenAsTextFile();
+        stream->Close();
         folder.write(replaced ? "other" : "input", "longer"); // written to, it is still the same
         if (replaced)
             std::filesystem::rename(folder.path("other"), folder.path("input"));
-        item->Delete();
+        item->Delete(*stream);
         EXPECT_EQ(folder.has("input"), replaced);
     }
 }
@@ -332,7 +332,7 @@ TEST_F(Files, OnlyLinksOfTheUserAndOfRootAreFollowed) {
     EXPECT_TRUE(S_ISREG(statusOf("keys1").st_mode) && S_ISREG(statusOf("folder1").st_mode));
     EXPECT_EQ(folder.read("keys1"), "keys");
     // Deleting a link leaves what it leads to.
-    folder.item("keys0")->Delete();
+    folder.item("keys0")->Delete(*folder.item("keys0")->OpenAsTextFile());
     EXPECT_EQ(folder.read("home/keys"), "keys");
     EXPECT_FALSE(std::filesystem::is_symlink(folder.path("keys0")));
 }

@@ -20,7 +20,7 @@ void Window1::doTranscTimecode() {
         ProgressBar1.Visible = false;
         captionArray2.clear(); // kept: on Cancel both arrays stay as they are
         timeCodeArray.clear();
-        GetFolderItem(transcriptItem->AbsolutePath(), 0, Links::all)->Launch(true);
+        Launch(*GetFolderItem(transcriptItem->AbsolutePath(), 0, Links::all), true);
     }
     hideProgress();
 }
@@ -40,10 +40,13 @@ void Window1::DoTranscTimecodeFile() {
     const std::string transcriptText = composeTranscript();
     const std::string path = destFolder + baseNameOf(fileName);
     Ref<FolderItem> transcriptItem = GetFolderItem(path + ".txt");
-    if (transcriptItem->Exists()) // kept: one test and no loop, so an older "_1" is replaced
+    Existing existing = Existing::stays; // one that comes after the look
+    if (transcriptItem->Exists()) {      // kept: one test and no loop, so an older "_1" is replaced
         transcriptItem = GetFolderItem(path + "_1.txt");
+        existing = Existing::replaced;
+    }
     if (transcriptItem) {
-        writeTranscript(*transcriptItem, fileName, transcriptText);
+        writeTranscript(*transcriptItem, fileName, transcriptText, existing);
         captionArray2.clear(); // kept: timeCodeArray is the caller's to empty
     }
     hideProgress();
@@ -57,8 +60,8 @@ std::string Window1::composeTranscript() {
 }
 
 void Window1::writeTranscript(const FolderItem &transcriptItem, const std::string &name,
-                              const std::string &transcriptText) {
-    const Ref<TextOutputStream> transcriptStream = transcriptItem.CreateTextFile();
+                              const std::string &transcriptText, Existing existing) {
+    const Ref<TextOutputStream> transcriptStream = transcriptItem.CreateTextFile(existing);
     transcriptStream->WriteLine(headingOf(name));
     transcriptStream->WriteLine("");
     transcriptStream->WriteLine(transcriptText);

@@ -20,13 +20,11 @@ std::string_view nextBlock(InputFile &file, Bytes &block) {
 /// True when a file at `target` has the bytes and the permission bits of the one at `source`, and
 /// lasts if it has to.
 bool isCopied(const std::string &source, const std::string &target, Lasting lasting) {
-    std::string problem;
-    InputFile copy(target, problem);
-    InputFile original(source, problem);
-    if (!copy.isOpen() || !original.isOpen() || copy.size() != original.size() ||
-        copy.permissions() != original.permissions())
-        return false;
     try {
+        InputFile copy(target);
+        InputFile original(source);
+        if (copy.size() != original.size() || copy.permissions() != original.permissions())
+            return false;
         const std::size_t room = std::min(copy.size(), kBlock);
         Bytes copyBlock(room);
         Bytes originalBlock(room);
@@ -49,14 +47,9 @@ bool isCopied(const std::string &source, const std::string &target, Lasting last
 void copyFile(const std::string &source, const std::string &target, Lasting lasting) {
     if (isCopied(source, target, lasting))
         return;
-    std::string problem;
-    InputFile original(source, problem);
-    if (!original.isOpen())
-        return;
-    NewFile copy(target, original.permissions(), problem);
-    if (!copy.isOpen())
-        return;
     try {
+        InputFile original(source);
+        NewFile copy(target, original.permissions());
         Bytes block(std::min(original.size(), kBlock));
         while (original.readSome(block)) {
             copy.write(block.view());

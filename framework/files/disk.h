@@ -18,7 +18,7 @@ namespace norvane::disk {
 
 enum class Kind { missing, file, folder, foreignLink, other };
 
-/// What stands at `path`; missing also when a folder on the way is. Throws IOException when that
+/// What stands at `path`; missing also when a folder on the way is. Throws FileFailure when that
 /// cannot be told, as with a failing disk.
 Kind kindOf(const std::string &path, Links links = Links::trusted);
 
@@ -29,7 +29,7 @@ Kind kindOf(const std::string &path, Kind unknown, Links links = Links::trusted)
 std::string folderOf(const std::string &path);
 
 /// The names in a folder but "." and "..", sorted by their bytes; none when it is no folder or may
-/// not be read. Throws IOException when reading it fails.
+/// not be read. Throws FileFailure when reading it fails.
 std::vector<std::string> namesIn(const std::string &path, Links links = Links::trusted);
 
 /// Appends the names in an open folder, as the system has them; false when reading it failed.
@@ -43,9 +43,9 @@ void makeFolders(const std::string &path, Links links = Links::trusted);
 
 class InputFile;
 
-/// Removes a file or a link; where `read` is given, only when that is still what stands there.
-/// Whether it worked is not told.
-void remove(const std::string &path, const InputFile *read = nullptr);
+/// Removes a file, or a link to it, as long as `read` is still what stands there. Whether it worked
+/// is not told.
+void remove(const std::string &path, const InputFile &read);
 
 /// A lock, held for as long as a copy of this lives; null where there is none.
 using FolderLock = std::shared_ptr<const void>;
@@ -62,44 +62,49 @@ std::string preferencesFolder();
 /// The folder of the running program, not ending in a separator; empty when that cannot be told.
 std::string programFolder();
 
-/// A regular file open for reading, up to the size that it had then.
+/// A file open for reading, up to the size that it had then.
 class InputFile {
   public:
-    /// Opens `path`. When it is no regular file or cannot be opened, the file is not open and
-    /// `problem` says why, in words for the user.
-    InputFile(const std::string &path, std::string &problem, Links links = Links::trusted);
+    /// Opens a regular file. Throws FileFailure.
+    explicit InputFile(const std::string &path, Links links = Links::trusted);
 
-    bool isOpen() const { return handle_.isOpen(); }
+    /// Opens what a person names for reading, as any program does: links are followed, a relative
+    /// path is one, and a pipe or a device is read to its end, if it has one. Throws FileFailure,
+    /// also for a folder.
+    static InputFile named(const std::string &path);
+    static InputFile standardInput();
 
-    /// Whether it is not open for another reason than that it is missing, no regular file, or not
-    /// for this user to read: a disk that fails, say.
-    bool hasFailed() const { return hasFailed_; }
+    bool isRegular() const { return place_.isFile(); }
 
     /// Whether it is what stands at `place`: written to since or not, but no other file.
     bool isAt(const Place &place) const;
 
-    /// Fills the rest of `bytes`, or some of it; false at the end of the file. Throws IOException.
+    /// Fills the rest of `bytes`, or some of it; false at the end of the file. Throws FileFailure.
     bool readSome(Bytes &bytes);
 
-    /// All that is left of the file. Throws IOException.
+    /// All that is left of a regular file. Throws FileFailure.
     Bytes readAll();
 
-    /// The size in bytes when it was opened; less may be there to read if it shrinks.
+    /// The size in bytes when it was opened, 0 for a pipe; less may be there to read if it shrinks.
     std::size_t size() const { return static_cast<std::size_t>(place_.status.st_size); }
 
     /// Its permission bits when it was opened, those for reading, writing and executing.
     mode_t permissions() const { return place_.permissions(); }
 
-    /// Makes its bytes and its name last through a power failure. Throws IOException.
+    /// Makes its bytes and its name last through a power failure. Throws FileFailure.
     void flush();
 
   private:
+    InputFile(const std::string &path, Handle handle);
+
     std::string path_;
-    Place place_;
+    Place place_; // of what was not opened by its place, the status alone
     Handle handle_;
     std::size_t left_ = 0;
-    bool hasFailed_ = false;
 };
+
+/// Whether something can be read from standard input that nobody types.
+bool standardInputIsPiped();
 
 /// Who may read and write a new file.
 enum class Readers { byUmask, userAlone };
@@ -113,20 +118,18 @@ enum class Lasting { no, yes };
 /// ".norvane-*.part" at most, which the next process to write in that folder removes.
 class NewFile : public TextSink {
   public:
-    /// Begins a file for `path`; when it cannot be created, it is not open and `problem` says why.
-    /// A regular file that stands there must be writable and leaves its permission bits to the new
-    /// one; `readers` is for a file where there was none.
-    NewFile(const std::string &path, Readers readers, std::string &problem,
-            Links links = Links::trusted);
+    /// Begins a file for `path`. A regular file that stands there must be writable and leaves its
+    /// permission bits to the new one; `readers` is for a file where there was none. Throws
+    /// FileFailure.
+    NewFile(const std::string &path, Readers readers, Links links = Links::trusted);
 
     /// Begins a copy for `path` with these permission bits, whatever those of a file there are.
-    NewFile(const std::string &path, mode_t permissions, std::string &problem);
+    /// Throws FileFailure.
+    NewFile(const std::string &path, mode_t permissions);
 
     ~NewFile() override;
     NewFile(const NewFile &) = delete;
     NewFile &operator=(const NewFile &) = delete;
-
-    bool isOpen() const { return handle_.isOpen(); }
 
     /// Whether it would take the place of `input`, under this name or another.
     bool replaces(const InputFile &input) const { return input.isAt(place_); }
@@ -134,18 +137,18 @@ class NewFile : public TextSink {
     /// From here on it takes no other file's place: if one has come there, `commit` fails.
     void mustBeNew() { isNew_ = true; }
 
-    /// Throws IOException when not all could be written.
+    /// Throws FileFailure when not all could be written.
     void write(std::string_view bytes) override;
 
-    /// Takes the target's place, and lasts. Throws IOException: the old target then stays, unless
+    /// Takes the target's place, and lasts. Throws FileFailure: the old target then stays, unless
     /// all that failed was to make the new one's name last.
     void commit() override { finish(Lasting::yes); }
 
     void finish(Lasting lasting);
 
   private:
-    bool findTarget(std::string &problem, Links links);
-    void begin(mode_t mode, std::string &problem);
+    void findTarget(Links links);
+    void begin(mode_t mode);
     bool openTemporary(mode_t mode);
     void nameTemporary();
     void giveName(Lasting lasting);
@@ -171,11 +174,11 @@ void copyFile(const std::string &source, const std::string &target, Lasting last
 /// the process.
 void surviveSizeLimits();
 
-/// Writes all of `bytes` to an open descriptor. Throws IOException, naming `what`.
+/// Writes all of `bytes` to an open descriptor. Throws FileFailure, naming `what`.
 void writeAll(int handle, std::string_view bytes, const std::string &what);
 
 /// Makes the names in a folder last through a power failure, as far as the file system can. Throws
-/// IOException, naming `what`, when its disk fails.
+/// FileFailure, naming `what`, when its disk fails.
 void flushNames(const Place &place, const std::string &what);
 
 } // namespace norvane::disk

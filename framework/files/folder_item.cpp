@@ -1,10 +1,10 @@
 #include "framework/files/folder_item.h"
 
 #include "framework/files/disk.h"
-#include "framework/text/failures.h"
+#include "framework/files/file_failure.h"
 #include "framework/text/text.h"
 
-#include <algorithm>
+#include <cerrno>
 
 namespace norvane {
 
@@ -23,14 +23,30 @@ std::string withEndSeparator(const std::string &path) {
 }
 
 Ref<TextOutputStream> createTextFile(const std::string &path, disk::Readers readers, Links links,
-                                     bool mustBeNew) {
-    std::string problem;
-    auto file = std::make_unique<disk::NewFile>(path, readers, problem, links);
-    if (!file->isOpen())
-        return Ref<TextOutputStream>::nil(problem);
-    if (mustBeNew)
-        file->mustBeNew();
-    return Ref(std::make_shared<TextOutputStream>(std::move(file)));
+                                     Existing existing) {
+    try {
+        auto file = std::make_unique<disk::NewFile>(path, readers, links);
+        if (existing == Existing::stays)
+            file->mustBeNew();
+        return Ref(std::make_shared<TextOutputStream>(std::move(file)));
+    } catch (const FileFailure &failure) {
+        return Ref<TextOutputStream>::nil(failure.what());
+    }
+}
+
+/// Whether there is no file for this user to read, while the disk is well.
+bool meansNoFile(const FileFailure &failure) {
+    switch (failure.error()) {
+    case 0:
+    case ENOENT:
+    case ENOTDIR:
+    case EACCES:
+    case ENAMETOOLONG:
+    case ELOOP:
+        return true;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -48,8 +64,7 @@ std::string FolderItem::AbsolutePath() const {
 
 bool FolderItem::Exists() const {
     const disk::Kind kind = disk::kindOf(path_, links_);
-    wasMissing_ = kind == disk::Kind::missing;
-    return !wasMissing_ && !(asFolder_ && kind == disk::Kind::foreignLink);
+    return kind != disk::Kind::missing && !(asFolder_ && kind == disk::Kind::foreignLink);
 }
 
 bool FolderItem::Directory() const {
@@ -93,30 +108,32 @@ void FolderItem::CopyFileTo(const FolderItem &target, CopyOf use) const {
                    use == CopyOf::whatGoes ? disk::Lasting::yes : disk::Lasting::no);
 }
 
-void FolderItem::Delete() const {
-    disk::remove(path_, opened_.get());
+void FolderItem::Delete(const TextInputStream &read) const {
+    if (const disk::InputFile *file = read.file())
+        disk::remove(path_, *file);
 }
 
 std::optional<disk::FolderLock> FolderItem::Lock() const {
     return disk::lockFolder(path_);
 }
 
-Ref<TextOutputStream> FolderItem::CreateTextFile() const {
-    return createTextFile(path_, disk::Readers::byUmask, links_, wasMissing_);
+Ref<TextOutputStream> FolderItem::CreateTextFile(Existing existing) const {
+    return createTextFile(path_, disk::Readers::byUmask, links_, existing);
 }
 
 Ref<TextOutputStream> FolderItem::CreatePrivateTextFile() const {
-    return createTextFile(path_, disk::Readers::userAlone, links_, false);
+    return createTextFile(path_, disk::Readers::userAlone, links_, Existing::replaced);
 }
 
 Ref<TextInputStream> FolderItem::OpenAsTextFile() const {
-    std::string problem;
-    opened_ = std::make_shared<disk::InputFile>(path_, problem, links_);
-    if (opened_->hasFailed())
-        throw IOException(problem);
-    if (!opened_->isOpen())
-        return Ref<TextInputStream>::nil(problem);
-    return Ref(std::make_shared<TextInputStream>([file = opened_] { return file->readAll(); }));
+    try {
+        return Ref(
+            std::make_shared<TextInputStream>(std::make_shared<disk::InputFile>(path_, links_)));
+    } catch (const FileFailure &failure) {
+        if (meansNoFile(failure))
+            return Ref<TextInputStream>::nil(failure.what());
+        throw;
+    }
 }
 
 Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/, Links links) {

@@ -13,21 +13,18 @@
 
 namespace norvane {
 
-namespace disk {
-class InputFile;
-} // namespace disk
-
 /// What the copy of a file is for: what goes is deleted later, and its copy must last through a
 /// power failure from the start.
 enum class CopyOf { whatStays, whatGoes };
+
+/// What becomes of a file that has the name of a new one when that is closed.
+enum class Existing { replaced, stays };
 
 /// A place in the file system, where something may or may not exist. Paths and their names hold
 /// UTF-8; other bytes in them pass unchanged. Which symbolic links are followed is settled when an
 /// item is made; its items and children have that from it.
 class FolderItem {
   public:
-    virtual ~FolderItem() = default;
-
     /// The item at an absolute path; GetFolderItem and Child are the ways to have one.
     explicit FolderItem(const std::string &path, Links links = Links::trusted);
 
@@ -66,9 +63,9 @@ class FolderItem {
     /// is not told.
     void CopyFileTo(const FolderItem &target, CopyOf use) const;
 
-    /// Deletes the file, but not another that has taken the place of one that this item opened.
-    /// Whether it worked is not told.
-    void Delete() const;
+    /// Deletes the file that `read` is, or was until it was closed, but not another that has taken
+    /// its place. Whether it worked is not told.
+    void Delete(const TextInputStream &read) const;
 
     /// Keeps cycles of the user's other programs out of this folder for as long as the result
     /// lives; nullopt when one of them is in it. Where nothing can be locked, nobody is kept out.
@@ -76,9 +73,8 @@ class FolderItem {
 
     /// A stream whose text takes this item's place when it is closed; nil when it cannot be
     /// created. The new file has the permission bits of the one that it replaces, or those that the
-    /// user gives to new files. What was not there when Exists was last asked is not replaced when
-    /// it has come since: closing the stream fails.
-    virtual Ref<TextOutputStream> CreateTextFile() const;
+    /// user gives to new files. Where a file is there and stays, closing the stream fails.
+    Ref<TextOutputStream> CreateTextFile(Existing existing = Existing::replaced) const;
 
     /// The same, but a file where there was none is for its user's eyes alone.
     Ref<TextOutputStream> CreatePrivateTextFile() const;
@@ -86,10 +82,7 @@ class FolderItem {
     /// A stream over the file's text; nil for whatever is no regular file that the user may read.
     /// The text is read when the stream is first asked for it. Both throw IOException when the disk
     /// fails.
-    virtual Ref<TextInputStream> OpenAsTextFile() const;
-
-    /// Hands the file to the desktop, which opens it as it opens files of this kind.
-    void Launch(bool activate) const;
+    Ref<TextInputStream> OpenAsTextFile() const;
 
   private:
     const std::vector<std::string> &listing() const;
@@ -98,8 +91,6 @@ class FolderItem {
     bool asFolder_;    // it was named with one
     Links links_;
     mutable std::optional<std::vector<std::string>> listing_;
-    mutable bool wasMissing_ = false;
-    mutable std::shared_ptr<disk::InputFile> opened_;
 };
 
 /// The item at an absolute path; `mode` is 0, absolute path; `links` is `all` for what a person

@@ -1,7 +1,6 @@
 #include "framework/files/disk.h"
+#include "framework/files/file_failure.h"
 #include "framework/files/system_calls.h"
-#include "framework/text/failures.h"
-#include "framework/text/text.h"
 
 #include <algorithm>
 #include <memory>
@@ -9,10 +8,6 @@
 namespace norvane::disk {
 
 namespace {
-
-[[noreturn]] void failToReach(const std::string &path, int error) {
-    throw IOException(inQuotes(path) + " cannot be reached: " + reason(error) + ".");
-}
 
 /// What stands at `path`; in `error` why that cannot be told, or 0.
 Kind look(const std::string &path, Links links, int &error) {
@@ -35,7 +30,7 @@ Kind kindOf(const std::string &path, Links links) {
     int error = 0;
     const Kind kind = look(path, links, error);
     if (error != 0)
-        failToReach(path, error);
+        throw FileFailure(FileCall::reach, path, error);
     return kind;
 }
 
@@ -77,7 +72,7 @@ std::vector<std::string> namesIn(const std::string &path, Links links) {
     if (error == ENOENT || error == ENOTDIR || error == EACCES)
         return names;
     if (error != 0 || !readNames(std::move(folder), names))
-        failToReach(path, error != 0 ? error : errno);
+        throw FileFailure(FileCall::reach, path, error != 0 ? error : errno);
     std::sort(names.begin(), names.end());
     return names;
 }
@@ -95,11 +90,10 @@ void makeFolders(const std::string &path, Links links) {
     }
 }
 
-void remove(const std::string &path, const InputFile *read) {
+void remove(const std::string &path, const InputFile &read) {
     Place place;
-    if (read != nullptr && (findPlace(path, place) != 0 || !read->isAt(place)))
-        return;
-    if (findPlace(path, place, Links::trusted, LastLink::keep) == 0)
+    if (findPlace(path, place) == 0 && read.isAt(place) &&
+        findPlace(path, place, Links::trusted, LastLink::keep) == 0)
         systemCalls.unlinkat(place.folder.get(), place.name.c_str(), 0);
 }
 

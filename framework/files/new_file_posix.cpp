@@ -1,7 +1,6 @@
 #include "framework/files/disk.h"
+#include "framework/files/file_failure.h"
 #include "framework/files/system_calls.h"
-#include "framework/text/failures.h"
-#include "framework/text/text.h"
 
 #include <array>
 #include <csignal>
@@ -42,25 +41,21 @@ void removeLeftovers(const std::string &path, const Place &file) {
 
 } // namespace
 
-NewFile::NewFile(const std::string &path, Readers readers, std::string &problem, Links links)
-    : path_(path) {
-    if (!findTarget(problem, links))
-        return;
+NewFile::NewFile(const std::string &path, Readers readers, Links links) : path_(path) {
+    findTarget(links);
     if (place_.isFile()) {
         if (systemCalls.faccessat(place_.folder.get(), place_.name.c_str(), W_OK,
-                                  AT_EACCESS | AT_SYMLINK_NOFOLLOW) != 0) {
-            problem = inQuotes(path_) + " cannot be replaced: " + reason(errno) + ".";
-            return;
-        }
+                                  AT_EACCESS | AT_SYMLINK_NOFOLLOW) != 0)
+            throw FileFailure(FileCall::replace, path_, errno);
         permissions_ = place_.permissions();
     }
-    begin(permissions_ || readers == Readers::userAlone ? kForUserAlone : kForAll, problem);
+    begin(permissions_ || readers == Readers::userAlone ? kForUserAlone : kForAll);
 }
 
-NewFile::NewFile(const std::string &path, mode_t permissions, std::string &problem)
+NewFile::NewFile(const std::string &path, mode_t permissions)
     : path_(path), permissions_(permissions) {
-    if (findTarget(problem, Links::trusted))
-        begin(kForUserAlone, problem);
+    findTarget(Links::trusted);
+    begin(kForUserAlone);
 }
 
 NewFile::~NewFile() {
@@ -68,34 +63,31 @@ NewFile::~NewFile() {
         systemCalls.unlinkat(place_.folder.get(), temporary_.c_str(), 0);
 }
 
-bool NewFile::findTarget(std::string &problem, Links links) {
+void NewFile::findTarget(Links links) {
     const int error = findPlace(path_, place_, links);
     if (error != 0)
-        problem = inQuotes(path_) + " cannot be created: " + reason(error) + ".";
-    else if (place_.isTaken() && !place_.isFile() && !place_.isLink())
-        problem = inQuotes(path_) + whyNoFile(place_);
-    else
-        return true;
-    return false;
+        throw FileFailure(FileCall::create, path_, error);
+    if (place_.isTaken() && !place_.isFile() && !place_.isLink())
+        throw FileFailure(FileCall::create, path_, whyNoFile(place_));
 }
 
-void NewFile::begin(mode_t mode, std::string &problem) {
+void NewFile::begin(mode_t mode) {
     removeLeftovers(path_, place_);
 #ifdef O_TMPFILE
     if (systemCalls.faccessat(AT_FDCWD, kOpenFiles, X_OK, 0) == 0) // by which alone it gets a name
         handle_ = Handle(systemCalls.openat(place_.folder.get(), ".", O_TMPFILE | O_WRONLY, mode));
 #endif
-    if (isOpen())
+    if (handle_.isOpen())
         systemCalls.flock(handle_.get(), LOCK_EX | LOCK_NB); // see removeLeftovers
     else if (!openTemporary(mode))
-        problem = inQuotes(path_) + " cannot be created: " + reason(errno) + ".";
+        throw FileFailure(FileCall::create, path_, errno);
 }
 
 bool NewFile::openTemporary(mode_t mode) {
     nameTemporary();
     handle_ = Handle(systemCalls.openat(place_.folder.get(), temporary_.c_str(),
                                         O_WRONLY | O_CREAT | O_EXCL, mode));
-    if (!isOpen()) {
+    if (!handle_.isOpen()) {
         temporary_.clear();
         return false;
     }
@@ -193,14 +185,14 @@ void NewFile::takeFreePlace() {
 }
 
 void NewFile::fail(int error) {
-    throw IOException(inQuotes(path_) + " cannot be written: " + reason(error) + ".");
+    throw FileFailure(FileCall::write, path_, error);
 }
 
 void flushNames(const Place &place, const std::string &what) {
     const Handle folder = openFolderOf(place);
     // Some file systems refuse the call, and some folders may not be read: no failure of ours.
     if (folder.isOpen() && systemCalls.fsync(folder.get()) != 0 && errno == EIO)
-        throw IOException(inQuotes(what) + " cannot be written: " + reason(EIO) + ".");
+        throw FileFailure(FileCall::write, what, EIO);
 }
 
 void surviveSizeLimits() {
@@ -211,7 +203,7 @@ void writeAll(int handle, std::string_view bytes, const std::string &what) {
     while (!bytes.empty()) {
         const ssize_t count = systemCalls.write(handle, bytes.data(), bytes.size());
         if (count <= 0)
-            throw IOException(inQuotes(what) + " cannot be written: " + reason(errno) + ".");
+            throw FileFailure(FileCall::write, what, errno);
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
 }

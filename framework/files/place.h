@@ -41,10 +41,7 @@ Handle openPlace(const Place &place, int flags, mode_t mode = 0);
 /// Opens the folder of `place` to be read. Not open on failure, with the system's error in errno.
 Handle openFolderOf(const Place &place);
 
-/// Why what stands at `place` is no regular file, as the end of a sentence about it.
+/// What stands at `place` and is no regular file, as the end of a sentence about it.
 std::string whyNoFile(const Place &place);
-
-/// Words for the user for an error of the system.
-std::string reason(int error);
 
 } // namespace norvane::disk

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <system_error>
 
 namespace norvane::disk {
 
@@ -82,13 +81,9 @@ Handle openFolderOf(const Place &place) {
 }
 
 std::string whyNoFile(const Place &place) {
-    return place.isFolder() ? " is a folder."
-           : place.isLink() ? " is a link that belongs to another user."
-                            : " is not a regular file.";
-}
-
-std::string reason(int error) {
-    return std::generic_category().message(error);
+    return place.isFolder() ? "is a folder."
+           : place.isLink() ? "is a link that belongs to another user."
+                            : "is not a regular file.";
 }
 
 } // namespace norvane::disk

@@ -40,9 +40,10 @@ struct Call<Result(Parameters...)> {
     }
 };
 
-/// The calls by which files and folders are looked at, read and written, each with the meaning and
-/// the errors that POSIX gives it. Nothing of this program reaches a file in another way, so that a
-/// test can put calls that fail in their place.
+/// The calls by which files and folders are looked at, read and written, standard input and output
+/// among them, each with the meaning and the errors that POSIX gives it. What the program does with
+/// its users' files goes through these alone, so that a test can put calls that fail in their
+/// place.
 struct SystemCalls {
     Call<int(int, const char *, int, mode_t)> openat{
         [](int folder, const char *name, int flags, mode_t mode) {
@@ -61,6 +62,7 @@ struct SystemCalls {
         return errno = ENOSYS, -1;
 #endif
     }};
+    Call<int(int)> duplicate{[](int file) { return ::fcntl(file, F_DUPFD_CLOEXEC, 0); }};
     Call<int(int, struct stat *)> fstat{::fstat};
     Call<ssize_t(int, char *, std::size_t)> readOpenLink{
         [](int link, char *target, std::size_t room) {

@@ -1,5 +1,6 @@
 #include "framework/files/text_streams.h"
 
+#include "framework/files/disk.h"
 #include "framework/text/text.h"
 
 #include <utility>
@@ -7,8 +8,8 @@
 namespace norvane {
 
 std::string_view TextInputStream::text() {
-    if (source_) {
-        bytes_ = std::exchange(source_, nullptr)();
+    if (std::exchange(isUnread_, false)) {
+        bytes_ = file_->readAll();
         lines_ = LineReader(bytes_.view());
     }
     return bytes_.view();
@@ -25,7 +26,7 @@ bool TextInputStream::EndOfFile() {
 }
 
 void TextInputStream::Close() {
-    source_ = nullptr;
+    isUnread_ = false;
     bytes_ = Bytes();
     lines_ = LineReader(std::string_view());
 }

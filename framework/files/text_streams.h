@@ -3,12 +3,15 @@
 #include "framework/files/bytes.h"
 #include "framework/text/line_reader.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace norvane {
+
+namespace disk {
+class InputFile;
+} // namespace disk
 
 /// A text file's content, given line by line. The whole file is in memory, from the first question
 /// on: that is when it is read, so that whoever opened it may first tell the user.
@@ -16,8 +19,12 @@ class TextInputStream {
   public:
     explicit TextInputStream(Bytes bytes) : bytes_(std::move(bytes)), lines_(bytes_.view()) {}
 
-    /// `source` gives the content, once. What it throws comes out of the first question.
-    explicit TextInputStream(std::function<Bytes()> source) : source_(std::move(source)) {}
+    /// Reading fails, with what InputFile throws, at the first question.
+    explicit TextInputStream(std::shared_ptr<disk::InputFile> file)
+        : file_(std::move(file)), isUnread_(true) {}
+
+    /// The file that was opened, for as long as this lives; null where there is none.
+    const disk::InputFile *file() const { return file_.get(); }
 
     /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the
     /// last ending is a line as well. Behind the last line, an empty text. The view holds until
@@ -33,7 +40,8 @@ class TextInputStream {
     void Close();
 
   private:
-    std::function<Bytes()> source_; // empty when it has been asked
+    std::shared_ptr<disk::InputFile> file_;
+    bool isUnread_ = false;
     Bytes bytes_;
     LineReader lines_{std::string_view()};
 };

@@ -43,9 +43,8 @@ Ref<FolderItem> SelectFolder() {
     return Desktop::current().chooseFolder();
 }
 
-// The one thing that a file asks of the desktop stands here, so that files know no windows.
-void FolderItem::Launch(bool activate) const {
-    Desktop::current().launch(path_, activate);
+void Launch(const FolderItem &file, bool activate) {
+    Desktop::current().launch(file.AbsolutePath(), activate);
 }
 
 void ShowURL(const std::string &address) {

@@ -63,6 +63,9 @@ Ref<FolderItem> GetSaveFolderItem(const std::string &fileType, const std::string
 /// The folder that the user chooses; nil on Cancel.
 Ref<FolderItem> SelectFolder();
 
+/// Hands a file to the desktop, which opens it as it opens files of this kind.
+void Launch(const FolderItem &file, bool activate);
+
 /// Opens an address in the user's web browser.
 void ShowURL(const std::string &address);
 

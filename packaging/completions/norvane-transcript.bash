@@ -18,6 +18,8 @@ _norvane_transcript() {
     case $previous in
     --form) mapfile -t COMPREPLY < <(compgen -W 'timecode line paragraph' -- "$word") ;;
     --clock) mapfile -t COMPREPLY < <(compgen -W 'unbuffered scc' -- "$word") ;;
+    -o) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    --stdin-name) _norvane_transcript_files "$word" ;;
     --output-dir)
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -d -- "$word")
@@ -40,8 +42,8 @@ _norvane_transcript() {
     *)
         if [[ $word == -* ]]; then
             mapfile -t COMPREPLY < <(
-                compgen -W '--form --clock --output-dir --force --explain --check --each --summary
-                    --limit --without --json --help --version' -- "$word"
+                compgen -W '--form --clock --no-heading -o --output-dir --force --stdin-name --explain --check
+                    --each --summary --limit --without --json --help --version' -- "$word"
             )
         else
             _norvane_transcript_files "$word"

@@ -13,6 +13,10 @@ complete -c norvane-transcript -l form -x -d 'Layout of the captions' -a '
 complete -c norvane-transcript -l clock -x -d 'Start times' -a '
     unbuffered\t"Corrected for the buffer"
     scc\t"As the file has them"'
+complete -c norvane-transcript -l no-heading -d 'Leave out the heading'
+complete -c norvane-transcript -s o -r -F -d 'Write a file'
+complete -c norvane-transcript -l stdin-name -x -a '(__norvane_transcript_files)' \
+    -d 'What to call standard input'
 complete -c norvane-transcript -l output-dir -x -a '(__fish_complete_directories)' \
     -d 'Write a text file for each into a folder'
 complete -c norvane-transcript -l force -d 'Replace transcripts that exist already'

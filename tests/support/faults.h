@@ -35,12 +35,12 @@ class FailingCall {
         error_ = error;
         using disk::SystemCalls;
         real_ = disk::systemCalls;
-        standIn<&SystemCalls::openat, &SystemCalls::openWithoutLinks, &SystemCalls::fstat,
-                &SystemCalls::readOpenLink, &SystemCalls::faccessat, &SystemCalls::fdopendir,
-                &SystemCalls::readdir, &SystemCalls::mkdirat, &SystemCalls::unlinkat,
-                &SystemCalls::flock, &SystemCalls::read, &SystemCalls::write, &SystemCalls::fchmod,
-                &SystemCalls::fsync, &SystemCalls::linkat, &SystemCalls::renameat,
-                &SystemCalls::renameToNew>();
+        standIn<&SystemCalls::openat, &SystemCalls::openWithoutLinks, &SystemCalls::duplicate,
+                &SystemCalls::fstat, &SystemCalls::readOpenLink, &SystemCalls::faccessat,
+                &SystemCalls::fdopendir, &SystemCalls::readdir, &SystemCalls::mkdirat,
+                &SystemCalls::unlinkat, &SystemCalls::flock, &SystemCalls::read,
+                &SystemCalls::write, &SystemCalls::fchmod, &SystemCalls::fsync,
+                &SystemCalls::linkat, &SystemCalls::renameat, &SystemCalls::renameToNew>();
     }
     ~FailingCall() { disk::systemCalls = real_; }
     FailingCall(const FailingCall &) = delete;

@@ -62,6 +62,7 @@ Options optionsOf(int count, char **arguments) {
     doAndTell("", [&] {
         std::vector<std::string> all = withOptionFiles(count, arguments);
         std::vector<char *> pointers;
+        pointers.reserve(all.size() + 1);
         for (std::string &argument : all)
             pointers.push_back(argument.data());
         pointers.push_back(nullptr); // as the system has it

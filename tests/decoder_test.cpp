@@ -185,6 +185,7 @@ TEST(Decoder, ShowsWhatAViewerSees) {
         {"RCL 1470 One 1520 1570 Three 152f EOC",
          "CC1 pop-on 10@2- 15,1 One | CC3 pop-on 9@2- 6,1 Three"},
         {"RCL 1470 A 0161 B EOC", "CC1 pop-on 5@2- 15,1 AB"},
+        {"1520 1570 A 0161 zz 0f00 B 0161 152f", "CC3 pop-on 8@2- 6,1 AB"},
         // A timecode that cannot be read: the line goes on behind the one before.
         {"RCL 1470 Bo th EOC zz EDM", "CC1 pop-on 4@2-6@2 15,1 Both | CC1 pop-on - 15,5 zz"}};
     for (const Row &row : rows) {
@@ -234,6 +235,7 @@ TEST(Check, FindsWhatIsWrongWithCaptions) {
         {"RCL 1470 Hi EOC @5 EDM", "never-shown@2"},
         {"RCL 1470 Hi EOC @6 EDM", ""},
         {"RCL 1470 Hi EOC", "never-erased@2"},
+        {"RU2 CR 1470 Hi CR Ho", "never-erased@2"},
         {"RCL 1340 1 1360 2 1440 3 1460 4 EOC @30 EDM", ""},
         {"RCL 1040 1 1340 2 1360 3 1440 4 1460 5 EOC @30 EDM", "rows@2"},
         {"RU3 CR 1160 Hi @30 EDM", "rows@2"},

@@ -18,10 +18,11 @@ std::string headerFault(std::string_view header) {
     header = withoutByteOrderMark(header);
     if (header.starts_with(kSccHeader))
         return "";
-    if (std::holds_alternative<DataLine>(takeApart(header)))
+    if (std::holds_alternative<DataLine>(takeApart(header))) {
         return "The file has no header, so that its first caption counts as one and is lost: put "
                "the line " +
                inQuotes(kSccHeader) + " ahead of it.";
+    }
     return "The first line is " + startInQuotes(header) + ", and not " + inQuotes(kSccHeader) +
            ", by which programs know the format: correct it.";
 }

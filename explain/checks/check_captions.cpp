@@ -121,6 +121,9 @@ void CaptionCheck::lookAtTimes(const Caption &caption, Findings &findings) {
     const CaptionTeller teller(caption, summary_.dropFrame, findings);
     const auto seen = framesOf(caption);
     if (!seen) {
+        if (stays_.test(static_cast<std::size_t>(caption.service)))
+            return; // rows of one screen are one finding
+        stays_.set(static_cast<std::size_t>(caption.service));
         teller.onShowing(FindingKind::neverErased, 0, [&] {
             return "Nothing takes " + startOf(caption) +
                    " away: end the film with a line that erases it (942c 942c).";

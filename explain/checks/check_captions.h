@@ -41,6 +41,7 @@ class CaptionCheck {
 
     Limits limits_;
     FilmSummary summary_{};
+    std::bitset<kServiceNames.size()> stays_{}; // whose last caption nothing takes away
     std::array<std::optional<long>, kServiceNames.size()> ends_{}; // of the captions before
 };
 

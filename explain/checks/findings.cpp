@@ -44,7 +44,7 @@ std::vector<Finding> Findings::take() {
     std::stable_sort(list_.begin(), list_.end(),
                      [](const Finding &a, const Finding &b) { return a.line < b.line; });
     for (Finding &finding : list_) // captions are told later than their lines
-        std::sort(finding.lines.begin(), finding.lines.end());
+        std::sort(finding.lines.begin() + 1, finding.lines.end());
     return std::move(list_);
 }
 

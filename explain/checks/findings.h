@@ -21,7 +21,7 @@ struct Finding {
     std::optional<std::size_t> frame{}; // in the line, of the first word that it concerns
     std::vector<std::string> words{};   // that it concerns, the first few
     std::size_t count = 1;              // how often, where findings of one cause are told as one
-    std::vector<std::size_t> lines{};   // the first of these lines, `line` among them
+    std::vector<std::size_t> lines{};   // the first of these lines, `line` ahead
 };
 
 inline Severity severityOf(const Finding &finding) {

@@ -99,17 +99,21 @@ void LineTaker::readWords() {
 
 /// Kept apart by kind: characters go where the last code went, and other words go nowhere.
 void LineTaker::readCode(SccWord &word) {
+    constexpr unsigned kEndOfData = 0x0F; // the first byte behind which captions go on
     const CodeMeaning &meaning = meaningOf(word.code);
     word.meaning = &meaning;
     word.parity = meaning.withParity == word.code;
     if (!isControlCode(meaning)) {
         lastCode_ = 0;
-        if (meaning.kind != CodeKind::text)
+        if (meaning.kind == CodeKind::otherData)
+            isOtherData_ = channel_ >= 2 && meaning.code >> 8U != kEndOfData;
+        if (meaning.kind != CodeKind::text || isOtherData_)
             return;
         word.mode = channels_[channel_].mode;
         word.service = serviceOf(channel_, channels_[channel_].isText);
         return;
     }
+    isOtherData_ = false;
     word.repeats = meaning.withParity == lastCode_;
     lastCode_ = word.repeats ? std::uint16_t{0} : meaning.withParity;
     const bool secondField =

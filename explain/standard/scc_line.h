@@ -100,6 +100,7 @@ class LineTaker {
     SccLine line_;
     std::array<Channel, 4> channels_{};
     std::size_t channel_ = 0;
+    bool isOtherData_ = false;   // characters of field 2 are of no caption
     std::uint16_t lastCode_ = 0; // of the word before, when a repetition of it would be one
     long nextFrame_ = -1;        // behind the line before
 };

@@ -112,7 +112,9 @@ void fileToTranscript(benchmark::State &state) {
     HeadlessDesktop desktop;
     Window1 window;
     const std::string text = made::scc(made::Kind::film, 10'000'000);
-    const std::filesystem::path folder = std::filesystem::temp_directory_path();
+    const std::filesystem::path inMemory = "/dev/shm";
+    const std::filesystem::path folder =
+        is_directory(inMemory) ? inMemory : std::filesystem::temp_directory_path();
     const std::string film = folder / "norvane-bench.scc";
     const std::string transcript = folder / "norvane-bench.txt";
     std::ofstream(film, std::ios::binary) << text;

@@ -189,6 +189,7 @@ std::string setLimit(std::string_view text, Limits &limits) {
     const std::size_t equals = text.find('=');
     const std::string_view name = text.substr(0, equals);
     std::vector<std::string_view> names;
+    names.reserve(kLimitNames.size());
     for (const LimitName &known : kLimitNames)
         names.push_back(known.name);
     const auto index = indexOf(name, names);

@@ -1,6 +1,7 @@
 #include "explain/checks/check.h"
 #include "explain/reports/report.h"
 #include "explain/standard/timecode_frames.h"
+#include "explain/walk/said_text.h"
 #include "framework/text/text.h"
 #include "tests/support/generated.h"
 #include "transcript/layout.h"
@@ -31,6 +32,43 @@ TEST(Explain, HasTheEntryOfTheTranscriptOnGeneratedText) {
         }
         ASSERT_EQ(Explainer(Clock::scc, {}).explain(*read).entry, entry) << text;
     }
+}
+
+std::string folded(std::string text) {
+    for (std::size_t before = 0; before != text.size();) {
+        before = text.size();
+        text = ReplaceAllB(text, "  ", " ");
+    }
+    if (text.starts_with(' '))
+        text.erase(0, 1);
+    if (text.ends_with(' '))
+        text.pop_back();
+    return text;
+}
+
+// Where nothing is remarked on, a viewer reads what the transcript says.
+TEST(Explain, RemarksOnEachDifferenceFromTheScreen) {
+    GeneratedHexText generated(3);
+    int silent = 0;
+    for (int line = 0; line < 20'000; ++line) {
+        const std::string text = "header\n00:00:01:00\t" + generated.next();
+        SccReader reader(text);
+        const SccLine &read = *reader.next();
+        const bool isOfOne =
+            std::all_of(read.words.begin(), read.words.end(), [](const SccWord &word) {
+                return word.isCode && word.parity && word.meaning->kind != CodeKind::none &&
+                       (word.service == Service::cc1 || word.meaning->kind == CodeKind::filler);
+            });
+        LineWalk walk;
+        walk.walk(read);
+        std::vector<EntryRemark> remarks;
+        remarkOn(read, walk, true, remarks);
+        if (!isOfOne || !remarks.empty() || !walk.entry())
+            continue;
+        ++silent;
+        ASSERT_EQ(folded(std::string(*walk.entry())), folded(SaidLine(read).text())) << text;
+    }
+    EXPECT_GT(silent, 100);
 }
 
 /// All that can be told of a file.

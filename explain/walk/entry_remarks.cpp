@@ -43,10 +43,25 @@ bool isCharacterCode(const SccWord &word) {
     return word.meaning->kind == CodeKind::special || word.meaning->kind == CodeKind::extended;
 }
 
-/// Whether a code parts on the screen what stands before it and behind it.
-bool parts(const CodeMeaning &meaning) {
-    return meaning.kind == CodeKind::midRow || meaning.kind == CodeKind::tabOffset ||
-           meaning.code == code::kCr;
+// Causes of one kind, beside the rows of the chain.
+constexpr std::uint32_t kNarrowCause = 0x10000;
+constexpr std::uint32_t kGlueCause = 0x20000;
+constexpr std::uint32_t kDifferenceCause = 0x30000;
+
+/// Runs of blanks as one, and none around.
+std::string folded(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        if (c != ' ' || (!result.empty() && result.back() != ' '))
+            result += c;
+    }
+    if (result.ends_with(' '))
+        result.pop_back();
+    return result;
+}
+
+bool isNothing(const SccWord &word) {
+    return word.repeats || word.meaning->kind == CodeKind::filler;
 }
 
 std::string lastCharacter(std::string_view text) {
@@ -68,7 +83,7 @@ class Remarker {
 
     void remarkOnCrossings();
     void remarkOnDigits();
-    void advise();
+    void remarkOnWords(bool wantsAdvice);
 
   private:
     struct Told {
@@ -90,8 +105,12 @@ class Remarker {
     std::string tell(const Crossing &crossing) const;
     bool isSound(const Crossing &crossing) const;
     void remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> crossings);
-    void adviseOn(std::size_t word, Told &told);
-    void adviseOnGluing(std::size_t code);
+    void remarkOnOther(std::size_t word, bool wantsAdvice, Told &told);
+    void remarkOnDifference(std::size_t word, const WordFate &fate);
+    void remarkOnGluing(std::size_t code);
+    std::size_t fallbackOf(std::size_t word) const;
+    std::size_t before(std::size_t word) const;
+    std::size_t behind(std::size_t word) const;
 
     const SccLine &line_;
     const LineWalk &walk_;
@@ -164,7 +183,6 @@ void Remarker::remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> c
 }
 
 void Remarker::remarkOnDigits() {
-    constexpr std::uint32_t kOutOfStep = 0x10000; // no row of the chain
     bool inStep = true;
     ShortList kept;
     std::unordered_set<std::string_view> told;
@@ -175,7 +193,7 @@ void Remarker::remarkOnDigits() {
         if (isNarrow(word)) {
             inStep = !inStep;
             if (!inStep && i + 1 < line_.words.size() && !isNarrow(line_.words[i + 1])) {
-                add(Kind::altered, kOutOfStep | word.code, i, 1,
+                add(Kind::altered, kNarrowCause | word.code, i, 1,
                     std::string(word.digits).append(", ").append(word.meaning->name) +
                         ", has no blank in the transcript, and what follows is read out of step. "
                         "The file is sound: correct the transcript.");
@@ -207,72 +225,149 @@ std::string Remarker::saidBy(std::size_t word) {
     return inQuotes(said().around(place, place + line_.words[word].digits.size()).text);
 }
 
-void Remarker::advise() {
+void Remarker::remarkOnWords(bool wantsAdvice) {
     Told told;
-    for (std::size_t i = 0; i < line_.words.size(); ++i)
-        adviseOn(i, told);
+    bool inStep = true;
+    bool isGlue = false;  // a code that parts came behind characters, and nothing stands for it
+    std::size_t glue = 0; // that code
+    bool isBehindText = false; // the last thing that stands is a character, not a blank
+    for (std::size_t i = 0; i < line_.words.size(); ++i) {
+        const WordClass is = walk_.classOf(i);
+        if (is == WordClass::nothing)
+            continue;
+        if (is == WordClass::deleted) {
+            if (isBehindText && !isGlue) {
+                isGlue = true;
+                glue = i;
+            }
+            continue;
+        }
+        const CodeMeaning &meaning = *line_.words[i].meaning;
+        const bool isText = isCharacters(meaning) && is != WordClass::other;
+        if (isText && isGlue && !meaning.shown.starts_with(' '))
+            remarkOnGluing(glue);
+        if (isNarrow(line_.words[i]))
+            inStep = !inStep;
+        const bool isAtEnd = i + 1 == line_.words.size();
+        if (is == WordClass::other && (inStep || isAtEnd))
+            remarkOnOther(i, wantsAdvice, told);
+        isGlue = false;
+        isBehindText = isCharacters(meaning) && !meaning.shown.ends_with(' ');
+    }
+    if (!wantsAdvice)
+        return;
     if (told.style)
         add(Kind::advice, 0, 0, line_.words.size(),
             "“--” stands for a change of style, which takes a column: put a blank in its place.");
     if (told.block)
-        add(Kind::advice, 0, 0, line_.words.size(),
+        add(Kind::advice, 1, 0, line_.words.size(),
             "“█” is a bar to the program, which takes bars out or makes them blanks: correct the "
             "transcript.");
 }
 
-void Remarker::adviseOn(std::size_t index, Told &told) {
+/// A word that has in the transcript something else than on the screen.
+void Remarker::remarkOnOther(std::size_t index, bool wantsAdvice, Told &told) {
     const SccWord &word = line_.words[index];
     const CodeMeaning &meaning = *word.meaning;
-    if (meaning.kind == CodeKind::text) {
-        const std::string_view shown = meaning.shown;
-        told.block |= shown.find("█") != std::string_view::npos;
-        return;
-    }
-    const bool isStyle = meaning.kind == CodeKind::midRow || meaning.kind == CodeKind::control;
-    if (!isCharacterCode(word) && !isStyle && !parts(meaning))
-        return;
     const WordFate fate = walk_.fateOf(index, 1);
-    const bool stands =
-        !fate.text.empty() && !fate.isBlank && fate.swallowed.empty() && fate.kept.empty();
-    if (isCharacterCode(word) && stands && word.repeats) {
-        add(Kind::advice, 0, index - 1, 2,
-            inQuotes(meaning.shown) + " is sent twice, as codes are, and stands twice in the "
-                                      "transcript: take one out.");
-    } else if (meaning.kind == CodeKind::extended && stands && index > 0 &&
-               line_.words[index - 1].meaning->kind == CodeKind::text &&
-               walk_.fateOf(index - 1, 1).swallowed.empty()) {
-        const std::string plain = inQuotes(lastCharacter(line_.words[index - 1].meaning->shown));
-        add(Kind::advice, 0, index - 1, 2,
+    if (meaning.kind == CodeKind::text && fate.text == meaning.shown)
+        return;
+    if (!fate.swallowed.empty() || !fate.kept.empty() || !word.isCode || !word.parity ||
+        word.service != Service::cc1)
+        return; // told for what it is
+    const bool stands = !fate.text.empty() && !fate.isBlank;
+    const bool isStyle = meaning.kind == CodeKind::midRow || meaning.code == code::kFon;
+    if (meaning.shown.find("█") != std::string_view::npos) {
+        told.block = true;
+    } else if (isStyle && stands) {
+        told.style = true;
+    } else if (isCharacterCode(word) && stands && word.repeats) {
+        if (wantsAdvice)
+            add(Kind::advice, word.code, index - 1, 2,
+                inQuotes(meaning.shown) + " is sent twice, as codes are, and stands twice in the "
+                                          "transcript: take one out.");
+    } else if (meaning.kind == CodeKind::extended && stands && fallbackOf(index) != index) {
+        if (!wantsAdvice)
+            return;
+        const std::size_t fallback = fallbackOf(index);
+        const std::string plain = inQuotes(lastCharacter(line_.words[fallback].meaning->shown));
+        add(Kind::advice, word.code, fallback, index - fallback + 1,
             inQuotes(meaning.shown) + " takes the place of the " + plain +
                 " before it, which is for old decoders; the transcript has both: take " + plain +
                 " out.");
-    } else if (parts(meaning) && !word.repeats && !stands) {
-        adviseOnGluing(index);
+    } else if (!word.repeats) {
+        remarkOnDifference(index, fate);
     }
-    told.style |= stands && isStyle && fate.text.find("--") != std::string_view::npos;
+}
+
+/// The word with the plain character that an extended one replaces on a screen; the index itself
+/// when there is none in the transcript.
+std::size_t Remarker::fallbackOf(std::size_t index) const {
+    const std::size_t plain = before(index);
+    const bool isThere = plain != index && isCharacters(*line_.words[plain].meaning) &&
+                         walk_.fateOf(plain, 1).swallowed.empty();
+    return isThere ? plain : index;
+}
+
+/// The next word to the left, and to the right, that is neither a filler nor a repetition; the
+/// first and the last word of the line where there is none.
+std::size_t Remarker::before(std::size_t word) const {
+    while (word > 0 && isNothing(line_.words[--word])) {
+    }
+    return word;
+}
+std::size_t Remarker::behind(std::size_t word) const {
+    while (word + 1 < line_.words.size() && isNothing(line_.words[++word])) {
+    }
+    return word;
+}
+
+/// What the viewer reads and what the transcript says, where no row of its own explains it.
+void Remarker::remarkOnDifference(std::size_t index, const WordFate &fate) {
+    const SccWord &word = line_.words[index];
+    const std::string is = std::string(word.digits).append(" (").append(word.meaning->name) + ")";
+    // A backspace stands behind what it concerns, of which nothing may be left.
+    constexpr int kMostBack = 8;
+    const bool hasText = isCharacters(*word.meaning);
+    const SccWord &last = line_.words[hasText ? index : behind(index)];
+    std::size_t first = hasText ? index : before(index);
+    const auto find = [&] {
+        return said().around(line_.placeOf(line_.words[first]),
+                             line_.placeOf(last) + last.digits.size() - 1);
+    };
+    SaidText around = find();
+    for (int back = 0; around.text.empty() && first > 0 && back < kMostBack; ++back) {
+        first = before(first);
+        around = find();
+    }
+    const std::size_t end = word.meaning->code == code::kBs ? line_.placeOf(word) : around.start;
+    const std::string written =
+        around.text.empty() ? "" : walk_.entryOf(around.start, std::max(around.end, end));
+    std::string text;
+    if (!hasText && !fate.text.empty() && !fate.isBlank) {
+        text = inQuotes(fate.text) + " comes of " + is + ", which shows nothing: take it out.";
+    } else if (folded(written) != folded(around.text) || word.meaning->code == code::kBs) {
+        text = "The viewer reads " + startInQuotes(around.text) + ", the transcript has " +
+               startInQuotes(written) + ": of " + is + " it has " +
+               (fate.text.empty() ? "nothing" : inQuotes(fate.text)) +
+               ". The file is sound: correct the transcript.";
+    }
+    if (!text.empty())
+        add(Kind::altered, kDifferenceCause | word.code, index, 1, text);
 }
 
 /// A code that parts words stands for nothing when it is deleted, so that they stand together.
-void Remarker::adviseOnGluing(std::size_t code) {
-    const auto isNothing = [this](std::size_t word) {
-        return line_.words[word].repeats || line_.words[word].meaning->kind == CodeKind::filler;
-    };
-    std::size_t ahead = code;
-    std::size_t behind = code + 1;
-    while (ahead > 0 && (ahead == code || isNothing(ahead)))
-        --ahead;
-    while (behind < line_.words.size() && isNothing(behind))
-        ++behind;
-    if (behind >= line_.words.size())
-        return;
-    const CodeMeaning &before = *line_.words[ahead].meaning;
-    const CodeMeaning &after = *line_.words[behind].meaning;
-    if (isCharacters(before) && !before.shown.ends_with(' ') && isCharacters(after) &&
-        !after.shown.starts_with(' ')) {
-        add(Kind::advice, 0, ahead, behind - ahead + 1,
+void Remarker::remarkOnGluing(std::size_t code) {
+    const std::size_t ahead = before(code);
+    const std::size_t next = behind(code);
+    const CodeMeaning &left = *line_.words[ahead].meaning;
+    const CodeMeaning &right = *line_.words[next].meaning;
+    if (isCharacters(left) && !left.shown.ends_with(' ') && isCharacters(right) &&
+        !right.shown.starts_with(' ')) {
+        add(Kind::altered, kGlueCause | line_.words[code].code, ahead, next - ahead + 1,
             std::string(line_.words[code].digits) + " parts " + saidBy(ahead) + " and " +
-                saidBy(behind) +
-                " on the screen, but the transcript has nothing for it: put a blank between them.");
+                saidBy(next) +
+                ", but the transcript has nothing for it: put a blank between them.");
     }
 }
 
@@ -283,8 +378,7 @@ void remarkOn(const SccLine &line, const LineWalk &walk, bool wantsAdvice,
     Remarker remarker(line, walk, remarks);
     remarker.remarkOnCrossings();
     remarker.remarkOnDigits();
-    if (wantsAdvice)
-        remarker.advise();
+    remarker.remarkOnWords(wantsAdvice);
 }
 
 } // namespace norvane

@@ -12,7 +12,7 @@ struct EntryRemark {
         advice,  // all else that a viewer sees in another way
     };
     Kind kind = Kind::advice;
-    std::uint32_t cause = 0; // the same where remarks of a kind come about in the same way
+    std::uint32_t cause = 0; // the same for remarks of a kind that come about in the same way
     std::size_t word = 0;    // the first of those that it concerns, of the line
     std::size_t count = 0;   // how many
     std::string text{};      // for the user: what it is, and what to do

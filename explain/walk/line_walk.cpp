@@ -4,6 +4,7 @@
 #include "decode/letter_table.h"
 #include "decode/replacement_chain.h"
 #include "decode/rows_of_code.h"
+#include "decode/words.h"
 #include "explain/walk/plain_walk.h"
 
 #include <algorithm>
@@ -129,6 +130,34 @@ void LineWalk::seeReplacement(const TracedText &text, std::size_t row, std::size
         swallowed_[crossing.places.at(i)] = true;
 }
 
+WordClass LineWalk::classOf(std::size_t index) const {
+    const SccWord &word = line_->words[index];
+    if (!isPlain_)
+        return word.meaning->kind == CodeKind::filler ? WordClass::nothing : WordClass::other;
+    WordClass &known = classes_[word.code];
+    if (known == WordClass::unknown)
+        known = findClass(word);
+    return known;
+}
+
+WordClass LineWalk::findClass(const SccWord &word) const {
+    const CodeMeaning &meaning = *word.meaning;
+    std::string piece;
+    std::vector<std::size_t> ends;
+    if (!appendCaptionByWords(piece, word.digits, ends))
+        return WordClass::other;
+    piece.resize(ends[0]);
+    if (meaning.kind == CodeKind::filler)
+        return WordClass::nothing;
+    if (meaning.kind == CodeKind::text)
+        return piece == meaning.shown ? WordClass::same : WordClass::other;
+    if (isCharacters(meaning))
+        return piece == " " && meaning.shown == " " ? WordClass::same : WordClass::other;
+    if (meaning.code == code::kBs)
+        return WordClass::other;
+    return piece == " " ? WordClass::blank : piece.empty() ? WordClass::deleted : WordClass::other;
+}
+
 bool LineWalk::keepsDigits(std::size_t word) const {
     const std::uint16_t code = line_->words[word].code;
     const auto stays = [](unsigned byte) {
@@ -186,7 +215,25 @@ WordFate LineWalk::fateOf(std::size_t first, std::size_t count) const {
     return fate;
 }
 
+std::string LineWalk::plainEntryOf(std::size_t start, std::size_t end) const {
+    const std::size_t first = line_->wordAt(start);
+    const std::size_t last = line_->wordAt(end - 1);
+    std::string_view text = plain_.textOf(first, last - first + 1);
+    const auto isPair = [this](std::size_t word) {
+        return line_->words[word].meaning->textSize == 2 && Len(plain_.textOf(word, 1)) == 2;
+    };
+    if (start > line_->placeOf(line_->words[first]) && isPair(first))
+        text.remove_prefix(characterSize(text));
+    if (end == line_->placeOf(line_->words[last]) + 2 && isPair(last)) {
+        const std::string_view lastText = plain_.textOf(last, 1);
+        text.remove_suffix(lastText.size() - characterSize(lastText));
+    }
+    return std::string(text);
+}
+
 std::string LineWalk::entryOf(std::size_t start, std::size_t end) const {
+    if (isPlain_)
+        return plainEntryOf(start, end);
     std::string text;
     const auto [first, behind] = traced_->bytesBetween(start, end);
     for (std::size_t byte = first; byte < behind; ++byte) {

@@ -30,6 +30,16 @@ struct WordFate {
     std::string swallowed{}; // those that a crossing took
 };
 
+/// What a word leaves to the transcript, beside what a viewer sees of it.
+enum class WordClass : std::uint8_t {
+    unknown,
+    nothing, // a filler, which nobody sees
+    same,    // the characters that a viewer reads
+    blank,   // a blank, where something parts what a viewer reads
+    deleted, // nothing, where something parts it
+    other,
+};
+
 /// The way of a data line's hex text to its entry.
 class LineWalk {
   public:
@@ -50,6 +60,10 @@ class LineWalk {
     /// Whether digits of a word stay, in a line that is plain.
     bool keepsDigits(std::size_t word) const;
 
+    /// Of a word of the line, by itself. WordClass::other in a line that is not plain, fillers
+    /// aside.
+    WordClass classOf(std::size_t word) const;
+
     /// The fate of `count` words from the word `first` on.
     WordFate fateOf(std::size_t first, std::size_t count) const;
 
@@ -61,7 +75,10 @@ class LineWalk {
     bool replaceWholeWords(TracedText &text) const;
     void seeReplacement(const TracedText &text, std::size_t row, std::size_t start,
                         std::size_t size);
+    std::string plainEntryOf(std::size_t start, std::size_t end) const;
     WordFate plainFateOf(std::size_t first, std::size_t count) const;
+
+    WordClass findClass(const SccWord &word) const;
 
     const SccLine *line_ = nullptr;
     std::optional<std::string_view> entry_;
@@ -69,6 +86,7 @@ class LineWalk {
     PlainWords plain_;
     std::optional<TracedText> traced_; // the entry of a line that is not plain
     std::vector<Crossing> crossings_;
+    mutable std::vector<WordClass> classes_ = std::vector<WordClass>(0x10000); // by code, as found
     std::vector<bool> swallowed_; // the places of crossings; empty without any
 };
 

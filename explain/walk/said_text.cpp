@@ -10,6 +10,13 @@ SaidLine::SaidLine(const SccLine &line) {
     for (const SccWord &word : line.words) {
         const std::size_t start = line.placeOf(word);
         const std::size_t end = start + word.digits.size();
+        if (word.repeats)
+            continue; // a decoder passes over it
+        const bool isBackspace = word.meaning->code == code::kBs;
+        if (isBackspace && !characters_.empty() && !characters_.back().text.empty()) {
+            characters_.pop_back();
+            continue;
+        }
         if (word.meaning->kind == CodeKind::extended && !characters_.empty() &&
             !characters_.back().isGap())
             characters_.pop_back(); // it takes its place
@@ -29,6 +36,13 @@ SaidLine::SaidLine(const SccLine &line) {
     }
 }
 
+std::string SaidLine::text() const {
+    std::string text;
+    for (const Character &character : characters_)
+        text += character.shown();
+    return text;
+}
+
 SaidText SaidLine::around(std::size_t first, std::size_t last) const {
     auto from = static_cast<std::size_t>(
         std::partition_point(characters_.begin(), characters_.end(),
@@ -44,13 +58,15 @@ SaidText SaidLine::around(std::size_t first, std::size_t last) const {
         --to;
     if (from == to)
         return {};
-    while (from > 0 && !characters_[from - 1].isGap())
+    constexpr std::size_t kFarthest = 64; // no word of a language is longer, but a hostile line is
+    for (std::size_t far = 0; far < kFarthest && from > 0 && !characters_[from - 1].isGap(); ++far)
         --from;
-    while (to < characters_.size() && !characters_[to].isGap())
+    for (std::size_t far = 0;
+         far < kFarthest && to < characters_.size() && !characters_[to].isGap(); ++far)
         ++to;
     SaidText said{"", characters_[from].start, characters_[to - 1].end};
     for (std::size_t i = from; i < to; ++i)
-        said.text += characters_[i].text;
+        said.text += characters_[i].shown();
     return said;
 }
 

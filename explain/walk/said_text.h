@@ -22,12 +22,16 @@ class SaidLine {
     /// between two places of the hex text, both included, belong to; empty when there are none.
     SaidText around(std::size_t first, std::size_t last) const;
 
+    /// All of it, with a blank for what has no character.
+    std::string text() const;
+
   private:
     struct Character {
         std::string_view text; // empty for a code without any
         std::size_t start;
         std::size_t end;
 
+        std::string_view shown() const { return text.empty() ? std::string_view(" ") : text; }
         bool isGap() const { return text.empty() || text == " "; }
     };
     std::vector<Character> characters_;

@@ -49,8 +49,10 @@ std::vector<std::string> Explainer::textsOf(std::size_t line) const {
     std::vector<std::string> texts;
     auto next = std::partition_point(findings_.begin(), findings_.end(),
                                      [line](const Finding &one) { return one.line < line; });
-    for (; next != findings_.end() && next->line == line; ++next)
-        texts.push_back(next->text);
+    for (; next != findings_.end() && next->line == line; ++next) {
+        if (next->kind != FindingKind::digits && next->kind != FindingKind::altered)
+            texts.push_back(next->text); // those are told by the remarks on the entry
+    }
     return texts;
 }
 

@@ -13,7 +13,8 @@ namespace {
 
 constexpr const char *kUsage =
     "Usage: norvane-transcript [OPTION]... FILE...\n"
-    "       norvane-transcript --explain [--json] FILE[:LINE]...\n"
+    "       norvane-transcript --explain [--find TEXT] [--at TIME] [--advised] [--screen]\n"
+    "                          [--json] FILE[:LINE|:FIRST-LAST]...\n"
     "       norvane-transcript --check [--json] [--each|--summary] [--without KIND,...]\n"
     "                          [--limit NAME=VALUE]... [@RULES] FILE...\n"
     "Turns Scenarist Closed Caption files (.scc) into readable transcripts, explains what became\n"
@@ -29,8 +30,14 @@ constexpr const char *kUsage =
     "                                  NAME is the file's name up to its first point\n"
     "  --force                         replace transcripts that exist already\n"
     "  --stdin-name NAME               what to call standard input (stdin)\n"
-    "  --explain                       for each data line, or for LINE alone: its words, what\n"
-    "                                  they mean, what became of them, what to do\n"
+    "  --explain                       for each data line, or for some: what a viewer sees of\n"
+    "                                  it and when, its words, what they mean, what became of\n"
+    "                                  them, what to do\n"
+    "  --find TEXT                     only lines with TEXT in the transcript or on the screen\n"
+    "  --at TIME                       only lines that are sent or seen then, 00:01:02:03 as the\n"
+    "                                  file has it or 00:01:02.10 as the transcript does\n"
+    "  --advised                       only lines with something to correct\n"
+    "  --screen                        show the rows as they stand on the screen\n"
     "  --check                         print what is wrong with each file: FILE:LINE: KIND: text;\n"
     "                                  what has the same cause is told once\n"
     "  --each                          tell each finding\n"
@@ -61,6 +68,10 @@ enum Found {
     outputFolder,
     force,
     explain,
+    find,
+    at,
+    advised,
+    screen,
     check,
     each,
     summary,
@@ -78,6 +89,10 @@ constexpr auto kOptions = std::to_array<option>({
     {"force", no_argument, nullptr, force},
     {"stdin-name", required_argument, nullptr, stdinName},
     {"explain", no_argument, nullptr, explain},
+    {"find", required_argument, nullptr, find},
+    {"at", required_argument, nullptr, at},
+    {"advised", no_argument, nullptr, advised},
+    {"screen", no_argument, nullptr, screen},
     {"check", no_argument, nullptr, check},
     {"each", no_argument, nullptr, each},
     {"summary", no_argument, nullptr, summary},
@@ -261,6 +276,21 @@ std::string take(int found, const std::string &value, Options &options) {
             return "--explain and --check are two tasks";
         options.task = found == Found::explain ? Task::explain : Task::check;
         return "";
+    case Found::find:
+        options.choice.text = value;
+        return value.empty() ? "option '--find' needs a value" : "";
+    case Found::at:
+        options.choice.time = value;
+        return isTime(value) ? ""
+                             : "no time '" + printable(value) +
+                                   "'; write 00:01:02:03 as the file has it or 00:01:02.10 as the "
+                                   "transcript does";
+    case Found::advised:
+        options.choice.advised = true;
+        return "";
+    case Found::screen:
+        options.screen = true;
+        return "";
     case Found::each:
         options.rules.told = Findings::Told::each;
         return "";
@@ -285,6 +315,10 @@ std::string contradiction(const Options &options) {
         return "--without goes with --check";
     if (options.rules.told == Findings::Told::each && options.task != Task::check)
         return "--each goes with --check";
+    const bool isChosen =
+        !options.choice.text.empty() || !options.choice.time.empty() || options.choice.advised;
+    if ((isChosen || options.screen) && options.task != Task::explain)
+        return "--find, --at, --advised and --screen go with --explain";
     if (options.summary && options.task != Task::check)
         return "--summary goes with --check";
     if (options.rules.limits.isAny() && options.task != Task::check)

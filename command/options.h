@@ -2,6 +2,7 @@
 
 #include "decode/data_line.h"
 #include "explain/checks/check.h"
+#include "explain/reports/line_choice.h"
 #include "transcript/layout.h"
 
 #include <string>
@@ -24,6 +25,8 @@ struct Options {
     bool json = false;
     CheckRules rules{};
     bool summary = false;
+    LineChoice choice{};
+    bool screen = false;
     std::vector<std::string> files{}; // "-" is standard input
 
     /// When not empty, all there is to do: print this and end with exitStatus.

@@ -53,26 +53,39 @@ void explainWith(const Place &place, const Options &options) {
         ofFile.reset(static_cast<std::size_t>(kind));
     const std::vector<Finding> findings = check(text, ofFile);
     Explainer explainer(options.clock, findings);
+    const FilmCaptions captions(text);
+    LineChoice choice = options.choice;
+    if (place.firstLine != 0) {
+        choice.firstLine = place.firstLine;
+        choice.lastLine = place.lastLine;
+    }
+    const LineChooser chooser(choice, captions);
     Printer<Report> printer;
     bool isFirst = true;
-    const auto isWanted = [&](std::size_t line) {
-        if (place.line != 0 && place.line != line)
-            return false;
+    const auto begin = [&] {
         part(printer.report(), isFirst);
         isFirst = false;
-        return true;
     };
     SccReader reader(text);
-    if (isWanted(reader.headerNumber()))
-        addHeader(printer.report(), shown, reader.headerNumber(), reader.header(),
-                  explainer.adviceOnHeader(reader.headerNumber()));
+    const auto onHeader = explainer.adviceOnHeader(reader.headerNumber());
+    if (chooser.wantsHeader(reader.headerNumber(), !onHeader.empty())) {
+        begin();
+        addHeader(printer.report(), shown, reader.headerNumber(), reader.header(), onHeader);
+    }
     while (const SccLine *line = reader.next()) {
-        if (isWanted(line->number))
-            add(printer.report(), shown, explainer.explain(*line));
+        if (!choice.isInRange(line->number))
+            continue;
+        const Explanation &explanation = explainer.explain(*line);
+        if (!chooser.wants(explanation))
+            continue;
+        begin();
+        add(printer.report(), shown, explanation, captions, options.screen);
         printer.printMuch();
     }
-    if (isFirst)
-        throw Problem("there is no such line, or nothing stands in it.", "", place.line);
+    if (isFirst && choice.text.empty() && choice.time.empty() && !choice.advised)
+        throw Problem("there is no such line, or nothing stands in it.", "", place.firstLine);
+    if (isFirst && !choice.advised)
+        throw Problem("no line of the file is of that text or time.");
     printer.print();
 }
 
@@ -109,14 +122,28 @@ bool checkWith(const std::string &path, const Options &options) {
 } // namespace
 
 Place placeOf(const std::string &argument) {
+    const auto isThere = [](const std::string &path) {
+        return disk::kindOf(absolutePath(path), disk::Kind::other, Links::all) !=
+               disk::Kind::missing;
+    };
     const std::size_t colon = argument.rfind(':');
-    if (colon == std::string::npos ||
-        disk::kindOf(absolutePath(argument), disk::Kind::other, Links::all) != disk::Kind::missing)
+    if (colon == std::string::npos || isThere(argument))
         return {argument};
     Place place{argument.substr(0, colon)};
-    const char *const end = argument.data() + argument.size();
-    const auto [rest, error] = std::from_chars(argument.data() + colon + 1, end, place.line);
-    return error == std::errc() && rest == end && place.line > 0 ? place : Place{argument};
+    const std::string lines = argument.substr(colon + 1);
+    const char *const end = lines.data() + lines.size();
+    auto read = std::from_chars(lines.data(), end, place.firstLine);
+    place.lastLine = place.firstLine;
+    if (read.ec == std::errc() && read.ptr != end && *read.ptr == '-')
+        read = std::from_chars(read.ptr + 1, end, place.lastLine);
+    if (read.ec == std::errc() && read.ptr == end && place.firstLine > 0 &&
+        place.firstLine <= place.lastLine)
+        return place;
+    const bool isFile = place.path == "-" || (!place.path.empty() && isThere(place.path));
+    if (isFile)
+        throw Problem(inQuotes(lines) + " names no line.",
+                      "Lines count from 1: write FILE:7, or FILE:7-12.");
+    return {argument};
 }
 
 void explainFile(const Place &place, const Options &options) {

@@ -7,13 +7,15 @@
 
 namespace norvane {
 
-/// A file of the command line and one of its lines.
+/// A file of the command line and some of its lines.
 struct Place {
     std::string path;
-    std::size_t line = 0; // 0: all
+    std::size_t firstLine = 0; // 0: all
+    std::size_t lastLine = 0;
 };
 
-/// Takes FILE[:LINE] apart. The whole is a file's name when there is a file of that name.
+/// Takes FILE[:LINE] or FILE:FIRST-LAST apart. The whole is a file's name when there is a file of
+/// that name. Throws Problem for what is no line of a file that is there.
 Place placeOf(const std::string &argument);
 
 /// Prints explanations of the lines of a file, or of one of them. Throws Problem and FileFailure.

@@ -46,11 +46,12 @@ void explainAll(const std::string &text) {
         add(json, "", finding);
     }
     Explainer explainer(Clock::scc, findings);
+    const FilmCaptions captions(text);
     SccReader reader(text);
     while (const SccLine *line = reader.next()) {
         const Explanation &explanation = explainer.explain(*line);
-        add(told, "", explanation);
-        add(json, "", explanation);
+        add(told, "", explanation, captions, true);
+        add(json, "", explanation, captions, true);
         if (line->refusal)
             continue;
         const std::string entry = captionOrFailure([&] {

@@ -22,19 +22,6 @@ std::size_t timesSent(const std::vector<SccWord> &words, std::size_t first) {
     return end - first;
 }
 
-/// A pop-on caption shows at its end; all others show as they are sent.
-std::optional<std::size_t> shownAt(const SccLine &line) {
-    for (std::size_t i = 0; i < line.words.size(); ++i) {
-        const SccWord &word = line.words[i];
-        if (word.repeats)
-            continue;
-        const bool isShownAtOnce = rowsOf(word.mode) > 0 || word.mode == Mode::paintOn;
-        if (word.meaning->code == code::kEoc || (isShownAtOnce && isCharacters(*word.meaning)))
-            return i;
-    }
-    return {};
-}
-
 } // namespace
 
 Explainer::Explainer(Clock clock, const std::vector<Finding> &findings)
@@ -96,7 +83,6 @@ const Explanation &Explainer::explain(const SccLine &line) {
     explanation_.start.clear();
     explanation_.entry.reset();
     explanation_.walk = nullptr;
-    explanation_.shownAt.reset();
     explanation_.words.clear();
     explanation_.advice = textsOf(line.number);
     if (line.refusal) {
@@ -107,7 +93,6 @@ const Explanation &Explainer::explain(const SccLine &line) {
     readEntry();
     for (std::size_t i = 0; i < line.words.size(); i += explanation_.words.back().times)
         explanation_.words.push_back({i, timesSent(line.words, i)});
-    explanation_.shownAt = shownAt(line);
     adviseOnParity();
     remarks_.clear();
     remarkOn(line, walk_, true, remarks_);

@@ -17,7 +17,6 @@ struct Explanation {
     std::string start{};                     // as the transcript has it
     std::optional<std::string_view> entry{}; // none when the transcript cannot have it
     const LineWalk *walk = nullptr;          // what became of words; null for a refused line
-    std::optional<std::size_t> shownAt{};    // the frame from which it is seen
     std::vector<Words> words{};
     std::vector<std::string> advice{}; // for the user, a paragraph each
 };

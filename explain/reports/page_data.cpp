@@ -39,7 +39,7 @@ void addRefusal(JsonWriter &json, const Problem &problem, std::string_view text)
     json.name("refused");
     json.beginObject();
     json.member("line", problem.line);
-    json.member("text", std::string_view(problem.text));
+    json.member("text", std::string_view(problem.what()));
     json.member("help", std::string_view(problem.help));
     json.name("around");
     json.beginList();

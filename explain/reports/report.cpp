@@ -48,22 +48,13 @@ void addPlace(TextReport &report, std::string_view file, std::size_t line) {
     report.add(file).add(":").add(line).add(": ");
 }
 
-void addHead(TextReport &report, const SccLine &line, const std::optional<std::size_t> &shownAt) {
+void addHead(TextReport &report, const SccLine &line) {
     report.add(line.data.timecode);
     if (line.timecode)
         report.add(line.timecode->dropFrame ? ", drop-frame" : ", non-drop");
     report.add(", ").add(counted(static_cast<long>(line.words.size()), "word"));
     if (line.mode != Mode::unknown)
         report.add(", ").add(nameOf(line.mode));
-    if (shownAt) {
-        report.add(", shown at +").add(*shownAt);
-        if (line.timecode) {
-            report.add(" (")
-                .add(frameTimecode(line.timecode->count() + static_cast<long>(*shownAt),
-                                   line.timecode->dropFrame))
-                .add(")");
-        }
-    }
 }
 
 /// What became of words: “Th”, deleted, blank, ...
@@ -174,24 +165,27 @@ void addHeader(JsonWriter &json, std::string_view file, std::size_t line, std::s
     json.endLine();
 }
 
-void add(TextReport &report, std::string_view file, const Explanation &explanation) {
+void add(TextReport &report, std::string_view file, const Explanation &explanation,
+         const FilmCaptions &captions, bool screen) {
     const SccLine &line = *explanation.line;
     addPlace(report, file, line.number);
     if (line.refusal)
         report.add(messageOf(*line.refusal));
     else
-        addHead(report, line, explanation.shownAt);
+        addHead(report, line);
     report.endLine();
     if (explanation.entry) {
         report.add("entry ").add(line.entry).add(" [").add(explanation.start).add("] ");
         report.add(*explanation.entry);
         report.endLine();
     }
+    addSeen(report, captions, line.number, screen);
     addWords(report, explanation);
     addAdvice(report, explanation.advice);
 }
 
-void add(JsonWriter &json, std::string_view file, const Explanation &explanation) {
+void add(JsonWriter &json, std::string_view file, const Explanation &explanation,
+         const FilmCaptions &captions, bool /*screen*/) {
     const SccLine &line = *explanation.line;
     json.beginObject();
     json.member("file", file);
@@ -203,8 +197,6 @@ void add(JsonWriter &json, std::string_view file, const Explanation &explanation
         json.member("dropFrame", line.timecode && line.timecode->dropFrame);
         json.member("mode", nameOf(line.mode));
         json.member("frames", line.words.size());
-        if (explanation.shownAt)
-            json.member("shownAt", *explanation.shownAt);
         if (explanation.entry) {
             json.member("entry", line.entry);
             json.member("start", std::string_view(explanation.start));
@@ -215,6 +207,7 @@ void add(JsonWriter &json, std::string_view file, const Explanation &explanation
     addAdvice(json, explanation.advice);
     json.endObject();
     json.endLine();
+    addSeen(json, file, captions, line.number);
 }
 
 void add(TextReport &report, std::string_view file, const Finding &finding) {

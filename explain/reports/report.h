@@ -1,5 +1,6 @@
 #pragma once
 
+#include "explain/reports/caption_report.h"
 #include "explain/reports/explanation.h"
 #include "explain/reports/json.h"
 #include "explain/reports/text_report.h"
@@ -14,8 +15,11 @@ void addHeader(TextReport &report, std::string_view file, std::size_t line, std:
 void addHeader(JsonWriter &json, std::string_view file, std::size_t line, std::string_view header,
                const std::vector<std::string> &advice);
 
-void add(TextReport &report, std::string_view file, const Explanation &explanation);
-void add(JsonWriter &json, std::string_view file, const Explanation &explanation);
+/// With the captions that have to do with the line; `screen` asks for pictures of their rows.
+void add(TextReport &report, std::string_view file, const Explanation &explanation,
+         const FilmCaptions &captions, bool screen);
+void add(JsonWriter &json, std::string_view file, const Explanation &explanation,
+         const FilmCaptions &captions, bool screen);
 
 void add(TextReport &report, std::string_view file, const Finding &finding);
 void add(JsonWriter &json, std::string_view file, const Finding &finding);

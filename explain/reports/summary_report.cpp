@@ -33,7 +33,7 @@ void addSummaryHead(TextReport &report) {
 
 void addSummary(TextReport &report, std::string_view file, const CheckResult &result) {
     const FilmSummary &summary = result.summary;
-    report.add(file);
+    report.add(ReplaceAllB(file, "\t", " ")); // a tab would begin a column
     for (const std::string &value :
          {std::to_string(summary.captions), timecodeOf(summary.firstFrame, summary),
           timecodeOf(summary.lastFrame, summary), summary.fastest ? Str(roundedRate(summary)) : "",

@@ -109,6 +109,7 @@ class Remarker {
     void remarkOnDifference(std::size_t word, const WordFate &fate);
     void remarkOnGluing(std::size_t code);
     std::size_t fallbackOf(std::size_t word) const;
+    bool isDoubled(std::size_t word) const;
     std::size_t before(std::size_t word) const;
     std::size_t behind(std::size_t word) const;
 
@@ -166,9 +167,11 @@ void Remarker::remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> c
     std::stable_sort(crossings.begin(), crossings.end(),
                      [](const Crossing &a, const Crossing &b) { return a.row < b.row; });
     std::string text;
-    if (!said.text.empty())
-        text = startInQuotes(said.text) + " becomes " +
-               startInQuotes(walk_.entryOf(said.start, said.end)) + ": ";
+    if (!said.text.empty()) {
+        const std::string written = walk_.entryOf(said.start, said.end);
+        text = startInQuotes(said.text) + " becomes " + startInQuotes(written) + ": ";
+        said_.insert(said.text + '\n' + written);
+    }
     bool sound = true;
     for (std::size_t i = 0; i < crossings.size(); ++i) {
         sound = sound && isSound(crossings[i]);
@@ -295,7 +298,11 @@ void Remarker::remarkOnOther(std::size_t index, bool wantsAdvice, Told &told) {
             inQuotes(meaning.shown) + " takes the place of the " + plain +
                 " before it, which is for old decoders; the transcript has both: take " + plain +
                 " out.");
-    } else if (!word.repeats) {
+    } else if (word.repeats || fate.isBlank || isDoubled(index)) {
+        return; // a blank parts as the code does, and of two that are the same one is advised on
+    } else if (!isCharacters(meaning) && meaning.code != code::kBs && !stands) {
+        remarkOnGluing(index);
+    } else {
         remarkOnDifference(index, fate);
     }
 }
@@ -307,6 +314,12 @@ std::size_t Remarker::fallbackOf(std::size_t index) const {
     const bool isThere = plain != index && isCharacters(*line_.words[plain].meaning) &&
                          walk_.fateOf(plain, 1).swallowed.empty();
     return isThere ? plain : index;
+}
+
+/// Whether a character code comes twice.
+bool Remarker::isDoubled(std::size_t index) const {
+    return isCharacterCode(line_.words[index]) && index + 1 < line_.words.size() &&
+           line_.words[index + 1].repeats;
 }
 
 /// The next word to the left, and to the right, that is neither a filler nor a repetition; the
@@ -347,6 +360,8 @@ void Remarker::remarkOnDifference(std::size_t index, const WordFate &fate) {
     if (!hasText && !fate.text.empty() && !fate.isBlank) {
         text = inQuotes(fate.text) + " comes of " + is + ", which shows nothing: take it out.";
     } else if (folded(written) != folded(around.text) || word.meaning->code == code::kBs) {
+        if (around.text.empty() || !said_.insert(around.text + '\n' + written).second)
+            return; // nothing that is read, or told with another of its words
         text = "The viewer reads " + startInQuotes(around.text) + ", the transcript has " +
                startInQuotes(written) + ": of " + is + " it has " +
                (fate.text.empty() ? "nothing" : inQuotes(fate.text)) +
@@ -367,7 +382,7 @@ void Remarker::remarkOnGluing(std::size_t code) {
         add(Kind::altered, kGlueCause | line_.words[code].code, ahead, next - ahead + 1,
             std::string(line_.words[code].digits) + " parts " + saidBy(ahead) + " and " +
                 saidBy(next) +
-                ", but the transcript has nothing for it: put a blank between them.");
+                " on the screen, but the transcript has nothing for it: put a blank between them.");
     }
 }
 
@@ -378,7 +393,8 @@ void remarkOn(const SccLine &line, const LineWalk &walk, bool wantsAdvice,
     Remarker remarker(line, walk, remarks);
     remarker.remarkOnCrossings();
     remarker.remarkOnDigits();
-    remarker.remarkOnWords(wantsAdvice);
+    if (walk.entry())
+        remarker.remarkOnWords(wantsAdvice);
 }
 
 } // namespace norvane

@@ -164,7 +164,7 @@ void appendPrintable(std::string &result, std::string_view text) {
         if (text.empty())
             return;
         const std::string_view character = text.substr(0, characterSize(text));
-        result += isHarmful(character) ? std::string_view("?") : character;
+        result += isHarmful(character) && character != "\t" ? std::string_view("?") : character;
         text.remove_prefix(character.size());
     }
 }

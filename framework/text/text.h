@@ -70,7 +70,7 @@ bool isAscii(std::string_view text);
 /// and U+2029, and the marks that turn the direction of text.
 bool isHarmful(std::string_view character);
 
-/// `text` with "?" for each harmful character.
+/// `text` with "?" for each harmful character but the tab.
 std::string printable(std::string_view text);
 void appendPrintable(std::string &result, std::string_view text);
 

@@ -42,8 +42,8 @@ _norvane_transcript() {
     *)
         if [[ $word == -* ]]; then
             mapfile -t COMPREPLY < <(
-                compgen -W '--form --clock --no-heading -o --output-dir --force --stdin-name --explain --check
-                    --each --summary --limit --without --json --help --version' -- "$word"
+                compgen -W '--form --clock --no-heading -o --output-dir --force --stdin-name --explain --find --at
+                    --advised --screen --check --each --summary --limit --without --json --help --version' -- "$word"
             )
         else
             _norvane_transcript_files "$word"

@@ -89,8 +89,8 @@ std::string_view Input::beginning() {
     return bytes_.view();
 }
 
-std::string_view Input::all() {
-    while (!ended_)
+std::string_view Input::all(std::size_t limit) {
+    while (!ended_ && bytes_.size() <= limit)
         readOn();
     return bytes_.view();
 }

@@ -28,10 +28,10 @@ class Input {
     std::string_view nextLine();
     std::size_t lineNumber() const { return lines_.number(); } // from 1, empty ones counted
 
-    /// The first block, for a look before any line is read; all of the file. Throw as nextLine
-    /// does.
+    /// The first block, for a look before any line is read; all of the file, or more than `limit`
+    /// bytes of it. Throw as nextLine does.
     std::string_view beginning();
-    std::string_view all();
+    std::string_view all(std::size_t limit = SIZE_MAX);
 
   private:
     bool readSome();

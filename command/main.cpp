@@ -1,6 +1,7 @@
 #include "command/input.h"
 #include "command/option_file.h"
 #include "command/options.h"
+#include "command/page.h"
 #include "command/report_files.h"
 #include "command/transcribe.h"
 #include "framework/files/disk.h"
@@ -49,6 +50,8 @@ int run(const Options &options) {
         return kFailed;
     if (options.summary && !options.json && !doAndTell("", [] { printSummaryHead(); }))
         return kTrouble;
+    if (options.task == Task::page)
+        return makePages(options) ? 0 : kFailed;
     int status = 0;
     for (const std::string &file : options.files)
         status = std::max(status, doTask(file, options));

@@ -17,9 +17,10 @@ constexpr const char *kUsage =
     "                          [--json] FILE[:LINE|:FIRST-LAST]...\n"
     "       norvane-transcript --check [--json] [--each|--summary] [--without KIND,...]\n"
     "                          [--limit NAME=VALUE]... [@RULES] FILE...\n"
+    "       norvane-transcript --page [--open] FILE...\n"
     "Turns Scenarist Closed Caption files (.scc) into readable transcripts, explains what became\n"
-    "of each word of a file, or checks files. A FILE named - is standard input, and so is none\n"
-    "when something is piped in.\n"
+    "of each word of a file, checks files, or shows them as pages. A FILE named - is standard\n"
+    "input, and so is none when something is piped in.\n"
     "\n"
     "  --form timecode|line|paragraph  how captions are laid out (timecode)\n"
     "  --clock unbuffered|scc          start times corrected for the buffer, or as the\n"
@@ -53,6 +54,10 @@ constexpr const char *kUsage =
 
 constexpr const char *kUsageBehindKinds =
     "  --json                          print one JSON object a line\n"
+    "  --page                          print a page for a browser: the film's captions with all\n"
+    "                                  that --explain and --check know; with --output-dir,\n"
+    "                                  write DIR/NAME.html for each file and DIR/index.html\n"
+    "  --open                          open the page at once\n"
     "  --help, -h                      print this and exit\n"
     "  --version                       print the version and exit\n"
     "\n"
@@ -78,6 +83,8 @@ enum Found {
     limit,
     without,
     json,
+    page,
+    open,
     version
 };
 
@@ -99,6 +106,8 @@ constexpr auto kOptions = std::to_array<option>({
     {"limit", required_argument, nullptr, limit},
     {"without", required_argument, nullptr, without},
     {"json", no_argument, nullptr, json},
+    {"page", no_argument, nullptr, page},
+    {"open", no_argument, nullptr, open},
     {"help", no_argument, nullptr, 'h'},
     {"version", no_argument, nullptr, version},
     {nullptr, 0, nullptr, 0}, // the end, as getopt_long wants it
@@ -272,9 +281,15 @@ std::string take(int found, const std::string &value, Options &options) {
         return "";
     case Found::explain:
     case Found::check:
+    case Found::page:
         if (options.task != Task::transcribe)
-            return "--explain and --check are two tasks";
-        options.task = found == Found::explain ? Task::explain : Task::check;
+            return "--explain, --check and --page are tasks of their own";
+        options.task = found == Found::explain ? Task::explain
+                       : found == Found::check ? Task::check
+                                               : Task::page;
+        return "";
+    case Found::open:
+        options.open = true;
         return "";
     case Found::find:
         options.choice.text = value;
@@ -323,13 +338,19 @@ std::string contradiction(const Options &options) {
         return "--summary goes with --check";
     if (options.rules.limits.isAny() && options.task != Task::check)
         return "--limit goes with --check";
-    if (options.json && options.task == Task::transcribe)
+    const bool explains = options.task == Task::explain || options.task == Task::check;
+    if (options.json && !explains)
         return "--json goes with --explain or --check";
     const bool toFile = !options.outputFile.empty();
     const bool toFolder = !options.outputFolder.empty();
-    if ((options.force || toFile || toFolder || !options.heading) &&
-        options.task != Task::transcribe)
-        return "-o, --output-dir, --force and --no-heading are for transcripts alone";
+    if ((toFile || !options.heading) && options.task != Task::transcribe)
+        return "-o and --no-heading are for transcripts alone";
+    if ((options.force || toFolder) && explains)
+        return "--output-dir and --force are for transcripts and pages";
+    if (options.open && options.task != Task::page)
+        return "--open goes with --page";
+    if (options.task == Task::page && options.files.size() > 1 && !options.open && !toFolder)
+        return "--page of several files needs --output-dir or --open";
     if (toFile && toFolder)
         return "-o and --output-dir are two places";
     if (toFile && options.files.size() > 1)

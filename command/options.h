@@ -10,7 +10,7 @@
 
 namespace norvane {
 
-enum class Task { transcribe, explain, check };
+enum class Task { transcribe, explain, check, page };
 
 /// What a call of norvane-transcript asks for.
 struct Options {
@@ -27,6 +27,7 @@ struct Options {
     bool summary = false;
     LineChoice choice{};
     bool screen = false;
+    bool open = false;
     std::vector<std::string> files{}; // "-" is standard input
 
     /// When not empty, all there is to do: print this and end with exitStatus.

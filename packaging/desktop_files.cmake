@@ -6,7 +6,8 @@ set(NORVANE_ZSH_FOLDER ${share}/zsh/site-functions CACHE STRING "Folder of the c
 set(pages norvane-transcript)
 if(NORVANE_DESKTOP)
   list(APPEND pages norvane)
-  install(FILES ${PROJECT_SOURCE_DIR}/resources/norvane.desktop DESTINATION ${share}/applications)
+  install(FILES ${PROJECT_SOURCE_DIR}/resources/norvane.desktop ${PROJECT_SOURCE_DIR}/resources/norvane-page.desktop
+    DESTINATION ${share}/applications)
   install(FILES com.bellwick.norvane.metainfo.xml DESTINATION ${share}/metainfo)
   install(FILES norvane-mime.xml DESTINATION ${share}/mime/packages RENAME norvane.xml)
   install(FILES ${PROJECT_SOURCE_DIR}/resources/norvane.svg

@@ -5,7 +5,7 @@ desktop_packages='qt6-base-dev qt6-base-dev-tools libgl-dev'
 test_packages='libgtest-dev libbenchmark-dev python3'
 deb_packages="$build_packages $desktop_packages debhelper dpkg-dev"
 deb_check_packages='lintian desktop-file-utils appstream man-db shared-mime-info libglib2.0-bin fish zsh'
-check_packages='git clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool imagemagick fonts-dejavu-core python3 dbus at-spi2-core'
+check_packages='git clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool imagemagick fonts-dejavu-core python3 dbus at-spi2-core chromium chromium-driver python3-selenium'
 
 # need PACKAGE...: installs those that are missing (Debian), or names them and the command for it.
 need() {

@@ -35,7 +35,8 @@ std::optional<Problem> refusalOf(std::string_view text, Clock clock) {
 }
 
 void addRefusal(JsonWriter &json, const Problem &problem, std::string_view text) {
-    constexpr std::size_t kAround = 2;
+    constexpr std::size_t kAround = 4;
+    constexpr std::size_t kMost = 400; // bytes of a line
     json.name("refused");
     json.beginObject();
     json.member("line", problem.line);
@@ -50,7 +51,7 @@ void addRefusal(JsonWriter &json, const Problem &problem, std::string_view text)
             continue;
         json.beginObject();
         json.member("line", lines.number());
-        json.member("text", startInQuotes(line));
+        json.member("text", line.substr(0, kMost));
         json.endObject();
     }
     json.endList();

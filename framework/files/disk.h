@@ -59,6 +59,9 @@ std::optional<FolderLock> lockFolder(const std::string &path);
 /// without a home, or without a full path to it.
 std::string preferencesFolder();
 
+/// The per-user folder for what can be made anew, as preferencesFolder.
+std::string cacheFolder();
+
 /// The folder of the running program, not ending in a separator; empty when that cannot be told.
 std::string programFolder();
 

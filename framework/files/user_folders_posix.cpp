@@ -24,14 +24,27 @@ std::string folderInHome(const char *name) {
     return home.empty() || kindOf(home, Kind::missing) != Kind::folder ? "" : home + name;
 }
 
+/// The folder of `variable`; without one, `name` in the user's home.
+[[maybe_unused]] std::string configuredFolder(const char *variable, const char *name) {
+    const std::string configured = pathFrom(variable);
+    return configured.empty() ? folderInHome(name) : configured;
+}
+
 } // namespace
 
 std::string preferencesFolder() {
 #ifdef __APPLE__
     return folderInHome("/Library/Preferences");
 #else
-    const std::string configured = pathFrom("XDG_CONFIG_HOME");
-    return configured.empty() ? folderInHome("/.config") : configured;
+    return configuredFolder("XDG_CONFIG_HOME", "/.config");
+#endif
+}
+
+std::string cacheFolder() {
+#ifdef __APPLE__
+    return folderInHome("/Library/Caches");
+#else
+    return configuredFolder("XDG_CACHE_HOME", "/.cache");
 #endif
 }
 

@@ -43,7 +43,7 @@ _norvane_transcript() {
         if [[ $word == -* ]]; then
             mapfile -t COMPREPLY < <(
                 compgen -W '--form --clock --no-heading -o --output-dir --force --stdin-name --explain --find --at
-                    --advised --screen --check --each --summary --limit --without --json --help --version' -- "$word"
+                    --advised --screen --check --each --summary --limit --without --page --open --json --help --version' -- "$word"
             )
         else
             _norvane_transcript_files "$word"

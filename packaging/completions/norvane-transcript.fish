@@ -30,6 +30,8 @@ complete -c norvane-transcript -l each -d 'Tell each finding, also of the same c
 complete -c norvane-transcript -l summary -d 'Print a line for each file'
 complete -c norvane-transcript -l limit -x -d 'Ask for more than the standard does' \
     -a 'reading-rate= shortest= longest= gap= row-length= rows= upper-rows'
+complete -c norvane-transcript -l page -d 'Print a page for a browser, or write some'
+complete -c norvane-transcript -l open -d 'Open the page'
 complete -c norvane-transcript -l without -x -d 'Leave out kinds of findings' \
     -a '(__fish_append , header bom tab timecode timecode-form hours frame dropped-frame separator order overlap twice word parity single channel field text-mode code empty never-shown never-erased columns rows reading-rate shortest longest gap row-length upper-rows digits altered)'
 complete -c norvane-transcript -l json -d 'Print one JSON object a line'

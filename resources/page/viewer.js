@@ -6,6 +6,7 @@
 // Text of a film gets into the document as text alone, never as markup.
 
 const kFramesASecond = 30000 / 1001;
+const kTracks = 4; // rows of captions at a time
 const kGroup = 24; // rows of the list
 const kSpans = [5, 10, 20, 40, 90, 240]; // seconds in the enlarged stretch
 const kSeverities = ['error', 'warning', 'note'];
@@ -71,11 +72,14 @@ function scaleMarks(from, to, dropFrame, count) {
 
 /** The data with what the view looks up often. */
 function filmOf(data) {
-    const film = {...data, captionOf: new Map(), rows: [], kindOf: new Map()};
-    for (const kind of data.kinds || []) film.kindOf.set(kind.kind, kind);
+    const capital = (text) => text.charAt(0).toUpperCase() + text.slice(1);
+    const kinds = (data.kinds || []).map((kind) => ({...kind, title: capital(kind.title)}));
+    const film = {...data, kinds, counts: new Map(), captionOf: new Map(), rows: [], kindOf: new Map()};
+    for (const kind of kinds) film.kindOf.set(kind.kind, kind);
     for (const caption of data.captions || []) film.captionOf.set(caption.caption, caption);
     const byLine = new Map();
     for (const finding of data.findings || []) {
+        film.counts.set(finding.kind, (film.counts.get(finding.kind) || 0) + 1);
         if (!byLine.has(finding.line)) byLine.set(finding.line, []);
         byLine.get(finding.line).push(finding);
     }
@@ -91,8 +95,8 @@ function filmOf(data) {
         row.end = row.frame + row.line.words.reduce((sum, word) => sum + word[1], 0);
     }
     film.rowOfLine = new Map(film.rows.map((row) => [row.line.line, row]));
-    film.from = Math.min(data.summary.firstFrame, ...film.rows.slice(0, 1).map((row) => row.frame));
-    film.to = Math.max(data.summary.lastFrame, film.from + 30);
+    film.from = Math.min(data.summary.firstFrame ?? Infinity, film.rows[0]?.frame ?? 0);
+    film.to = Math.max(data.summary.lastFrame ?? 0, film.rows[film.rows.length - 1]?.end ?? 0, film.from + 30);
     return film;
 }
 
@@ -302,7 +306,7 @@ function screenOf(caption, line) {
     for (const row of caption.rows) {
         for (const cell of cellsOf(row)) {
             const letter = make('span', {className: cell.classes}, cell.letter);
-            if (cell.line === line && cell.word !== null) letter.setAttribute('data-word', cell.word);
+            if (cell.line === line && cell.word >= 0) letter.setAttribute('data-word', cell.word);
             letter.style.setProperty('grid-area', `${row.row} / ${cell.column}`);
             screen.append(letter);
         }
@@ -407,7 +411,7 @@ function switchesOf(film, change) {
     const on = new Set();
     const group = make('div', {className: 'switches', role: 'group', 'aria-label': 'Show only lines with these findings'});
     for (const kind of film.kinds || []) {
-        const count = film.summary.findings?.[kind.kind] || 0;
+        const count = film.counts.get(kind.kind) || 0;
         const button = make('button', {type: 'button', className: kind.severity, title: kind.help || '', 'aria-pressed': 'false', 'data-kind': kind.kind},
             signOf(kind.severity), kind.title, kSigns[kind.kind] ? make('span', {className: 'by', 'aria-hidden': 'true'}, kSigns[kind.kind]) : null,
             make('b', {}, count.toLocaleString('en')));
@@ -477,11 +481,19 @@ function fillStretch(stretch, film, view, choose) {
         return block(overlaps ? 'overlap' : '', row, row === view.row, row.frame, row.end,
             `Line ${row.line.line}, sent ${row.line.timecode}, ${counted(row.end - row.frame, 'frame')}${overlaps ? ', before the one ahead is through' : ''}`, String(row.line.line));
     });
+    const tracks = []; // until when each is taken: captions that are seen together stand below each other
     const seen = film.captions.filter((caption) => isIn(caption.startFrame, caption.endFrame ?? film.to)).map((caption) => {
+        const free = tracks.findIndex((until) => until <= caption.startFrame);
+        const track = free >= 0 ? free : Math.min(tracks.length, kTracks - 1);
+        tracks[track] = caption.endFrame ?? film.to;
         const text = caption.rows.map((row) => row.text.trim()).join(' ');
         const row = film.rowOfLine.get(caption.lines[0]) || film.rowOfLine.get(caption.shownBy);
-        return block('', row, caption.lines.includes(view.row.line.line), caption.startFrame, caption.endFrame ?? film.to, `Caption ${caption.caption}, seen ${caption.start} to ${caption.end || 'the end'}: ${text}`, text);
+        const button = block('', row, caption.lines.includes(view.row.line.line), caption.startFrame, caption.endFrame ?? film.to, `Caption ${caption.caption}, seen ${caption.start} to ${caption.end || 'the end'}: ${text}`, text);
+        button.style.setProperty('--track', track);
+        return button;
     });
+    film.tracks = Math.max(film.tracks || 1, tracks.length); // never less than before: the list must not jump
+    stretch.parentElement.style.setProperty('--tracks', film.tracks);
     const found = view.found.filter((row) => isIn(row.frame, row.frame)).map((row) => {
         const button = make('button', {type: 'button', 'aria-label': `Line ${row.line.line}: ${row.findings.map((each) => titleOf(film, each.kind)).join(', ')}`,
             title: row.findings.map((each) => each.text).join('\n')}, signOf(row.worst));
@@ -706,8 +718,9 @@ function showFilm(data, root) {
 /** A table of films, each a link, that its heads sort. */
 function showFilms(films, root) {
     root.classList.add('viewer');
+    films = films.map((film) => film.refused ? {...film, summary: null} : film);
     const found = (film) => Object.values(film.summary?.findings || {}).reduce((sum, count) => sum + count, 0);
-    const length = (film) => film.summary ? seconds(film.summary.lastFrame - film.summary.firstFrame) : 0;
+    const length = (film) => seconds((film.summary?.lastFrame ?? 0) - (film.summary?.firstFrame ?? 0));
     const clock = (time) => [time / 3600, time / 60 % 60, time % 60].map((part) => String(Math.floor(part)).padStart(2, '0')).join(':');
     const kinds = (film) => Object.entries(film.summary?.findings || {}).map(([kind, count]) => `${kind} ${count}`).join(', ');
     const columns = [

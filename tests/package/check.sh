@@ -30,15 +30,15 @@ usr=$work/root/usr
 # All that lintian has to say counts, but for what is overridden with a reason.
 said=$(lintian -I "$work"/norvane_*.changes 2>&1 | grep -v 'root privileges') || true
 [ -z "$said" ] || fail "lintian: $said"
-desktop-file-validate "$usr/share/applications/norvane.desktop"
+desktop-file-validate "$usr"/share/applications/*.desktop
 quietly appstreamcli validate --no-net "$usr/share/metainfo/com.bellwick.norvane.metainfo.xml"
 
 # Nothing is missing, and nothing came along.
 sizes=(16 22 24 32 48 64 128 256 512)
 expected() {
-    printf '%s\n' bin/norvane bin/norvane-transcript share/applications/norvane.desktop \
+    printf '%s\n' bin/norvane bin/norvane-transcript share/applications/norvane{,-page}.desktop \
         share/metainfo/com.bellwick.norvane.metainfo.xml share/mime/packages/norvane.xml \
-        share/norvane/help.html share/man/man1/{norvane,norvane-transcript}.1.gz \
+        share/norvane/{help.html,page.png} share/man/man1/{norvane,norvane-transcript}.1.gz \
         share/doc/norvane/{copyright,changelog.gz,changelog.Debian.gz} share/lintian/overrides/norvane \
         share/bash-completion/completions/norvane-transcript \
         share/fish/vendor_completions.d/norvane-transcript.fish \

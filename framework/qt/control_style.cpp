@@ -43,7 +43,8 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         isField && field != nullptr && !(option->state & State_Enabled)) {
         // Not every desktop gives what is disabled a ground of its own.
         QStyleOptionFrame disabled = *field;
-        disabled.palette.setBrush(QPalette::Base, option->palette.window());
+        disabled.palette.setBrush(QPalette::Base,
+                                  option->palette.brush(QPalette::Active, QPalette::Window));
         QProxyStyle::drawPrimitive(element, &disabled, painter, widget);
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);

@@ -322,7 +322,10 @@ TEST_F(MainWindow, OutlinesAreSeen) {
     at("TextField1")->setStyle(nullptr);
     const QColor light(239, 240, 241);
     for (const QColor &ground : {light, QColor(42, 46, 50)}) {
-        peer()->setPalette(QPalette(ground, ground));
+        QPalette palette(ground, ground);
+        palette.setColor(QPalette::Disabled, QPalette::Window,
+                         Qt::red); // as KDE has it, but for red
+        peer()->setPalette(palette);
         for (const char *name : {"ParagraphBox", "RadioButton2", "timerText", "TextField2"})
             expectOutline(name);
         EXPECT_EQ(at("TextField2")->grab().toImage().pixelColor(20, 10), ground);

@@ -78,12 +78,14 @@ std::string nameOfKey(const std::string &key) {
 /// Puts the remarks on one line together.
 class Remarker {
   public:
-    Remarker(const SccLine &line, const LineWalk &walk, std::vector<EntryRemark> &remarks)
-        : line_(line), walk_(walk), remarks_(remarks) {}
+    Remarker(const SccLine &line, const LineWalk &walk, bool wantsAdvice,
+             std::vector<EntryRemark> &remarks)
+        : line_(line), walk_(walk), wantsAdvice_(wantsAdvice), remarks_(remarks) {}
 
     void remarkOnCrossings();
     void remarkOnDigits();
-    void remarkOnWords(bool wantsAdvice);
+    void remarkOnWords();
+    void remarkOnTheRest();
 
   private:
     struct Told {
@@ -93,7 +95,7 @@ class Remarker {
 
     void add(Kind kind, std::uint32_t cause, std::size_t word, std::size_t count,
              std::string text) {
-        if (said_.insert(text).second)
+        if (said_.insert(text).second && (kind != Kind::advice || wantsAdvice_))
             remarks_.push_back({kind, cause, word, count, std::move(text)});
     }
     const SaidLine &said() {
@@ -105,7 +107,7 @@ class Remarker {
     std::string tell(const Crossing &crossing) const;
     bool isSound(const Crossing &crossing) const;
     void remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> crossings);
-    void remarkOnOther(std::size_t word, bool wantsAdvice, Told &told);
+    void remarkOnOther(std::size_t word, Told &told);
     void remarkOnDifference(std::size_t word, const WordFate &fate);
     void remarkOnGluing(std::size_t code);
     std::size_t fallbackOf(std::size_t word) const;
@@ -115,8 +117,9 @@ class Remarker {
 
     const SccLine &line_;
     const LineWalk &walk_;
+    bool wantsAdvice_;
     std::vector<EntryRemark> &remarks_;
-    std::unordered_set<std::string> said_;
+    std::unordered_set<std::string> said_; // unwanted advice as well
     std::optional<SaidLine> saidLine_;
 };
 
@@ -228,7 +231,7 @@ std::string Remarker::saidBy(std::size_t word) {
     return inQuotes(said().around(place, place + line_.words[word].digits.size()).text);
 }
 
-void Remarker::remarkOnWords(bool wantsAdvice) {
+void Remarker::remarkOnWords() {
     Told told;
     bool inStep = true;
     bool isGlue = false;  // a code that parts came behind characters, and nothing stands for it
@@ -253,12 +256,10 @@ void Remarker::remarkOnWords(bool wantsAdvice) {
             inStep = !inStep;
         const bool isAtEnd = i + 1 == line_.words.size();
         if (is == WordClass::other && (inStep || isAtEnd))
-            remarkOnOther(i, wantsAdvice, told);
+            remarkOnOther(i, told);
         isGlue = false;
         isBehindText = isCharacters(meaning) && !meaning.shown.ends_with(' ');
     }
-    if (!wantsAdvice)
-        return;
     if (told.style)
         add(Kind::advice, 0, 0, line_.words.size(),
             "“--” stands for a change of style, which takes a column: put a blank in its place.");
@@ -269,7 +270,7 @@ void Remarker::remarkOnWords(bool wantsAdvice) {
 }
 
 /// A word that has in the transcript something else than on the screen.
-void Remarker::remarkOnOther(std::size_t index, bool wantsAdvice, Told &told) {
+void Remarker::remarkOnOther(std::size_t index, Told &told) {
     const SccWord &word = line_.words[index];
     const CodeMeaning &meaning = *word.meaning;
     const WordFate fate = walk_.fateOf(index, 1);
@@ -285,20 +286,17 @@ void Remarker::remarkOnOther(std::size_t index, bool wantsAdvice, Told &told) {
     } else if (isStyle && stands) {
         told.style = true;
     } else if (isCharacterCode(word) && stands && word.repeats) {
-        if (wantsAdvice)
-            add(Kind::advice, word.code, index - 1, 2,
-                inQuotes(meaning.shown) + " is sent twice, as codes are, and stands twice in the "
-                                          "transcript: take one out.");
+        add(Kind::advice, word.code, index - 1, 2,
+            inQuotes(meaning.shown) + " is sent twice, as codes are, and stands twice in the "
+                                      "transcript: take one out.");
     } else if (meaning.kind == CodeKind::extended && stands && fallbackOf(index) != index) {
-        if (!wantsAdvice)
-            return;
         const std::size_t fallback = fallbackOf(index);
         const std::string plain = inQuotes(lastCharacter(line_.words[fallback].meaning->shown));
         add(Kind::advice, word.code, fallback, index - fallback + 1,
             inQuotes(meaning.shown) + " takes the place of the " + plain +
                 " before it, which is for old decoders; the transcript has both: take " + plain +
                 " out.");
-    } else if (word.repeats || fate.isBlank || isDoubled(index)) {
+    } else if (word.repeats || fate.isBlank || (stands && isDoubled(index))) {
         return; // a blank parts as the code does, and of two that are the same one is advised on
     } else if (!isCharacters(meaning) && meaning.code != code::kBs && !stands) {
         remarkOnGluing(index);
@@ -333,6 +331,25 @@ std::size_t Remarker::behind(std::size_t word) const {
     while (word + 1 < line_.words.size() && isNothing(line_.words[++word])) {
     }
     return word;
+}
+
+/// Nothing may differ without a word, so that "Nothing to correct." holds: where all words are
+/// those of the first channel and nothing was told, what they say and the entry are compared as a
+/// whole.
+void Remarker::remarkOnTheRest() {
+    const auto isOther = [](const SccWord &word) {
+        return !word.parity || word.meaning->kind == CodeKind::none ||
+               (word.service != Service::cc1 && word.service != Service::none);
+    };
+    if (!said_.empty() || std::any_of(line_.words.begin(), line_.words.end(), isOther))
+        return;
+    const std::string seen = folded(said().text());
+    const std::string written = folded(*walk_.entry());
+    if (ReplaceAll(seen, " ", "") != ReplaceAll(written, " ", ""))
+        add(Kind::altered, kDifferenceCause, 0, line_.words.size(),
+            "The viewer reads " + (seen.empty() ? "nothing" : startInQuotes(seen)) +
+                ", the transcript has " + startInQuotes(written) +
+                ". The file is sound: correct the transcript.");
 }
 
 /// What the viewer reads and what the transcript says, where no row of its own explains it.
@@ -390,11 +407,13 @@ void Remarker::remarkOnGluing(std::size_t code) {
 
 void remarkOn(const SccLine &line, const LineWalk &walk, bool wantsAdvice,
               std::vector<EntryRemark> &remarks) {
-    Remarker remarker(line, walk, remarks);
+    Remarker remarker(line, walk, wantsAdvice, remarks);
     remarker.remarkOnCrossings();
     remarker.remarkOnDigits();
-    if (walk.entry())
-        remarker.remarkOnWords(wantsAdvice);
+    if (!walk.entry())
+        return;
+    remarker.remarkOnWords();
+    remarker.remarkOnTheRest();
 }
 
 } // namespace norvane

@@ -2,6 +2,7 @@
 
 build_packages='g++ cmake ninja-build'
 desktop_packages='qt6-base-dev qt6-base-dev-tools libgl-dev'
+page_packages='emscripten cmake ninja-build python3'
 test_packages='libgtest-dev libbenchmark-dev python3'
 deb_packages="$build_packages $desktop_packages debhelper dpkg-dev"
 deb_check_packages='lintian desktop-file-utils appstream man-db shared-mime-info libglib2.0-bin fish zsh'

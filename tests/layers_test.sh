@@ -23,7 +23,8 @@ explain/reports                  framework/text|decode|transcript|explain/(stand
 shell                                                   framework/(text|files|windows)                          text
 shell/start.h                                           framework/qt                                            text
 shell/start.cpp shell/main.cpp                          framework/.*                                            qt
-command web bench fuzz tests tests/kill tests/support   .*                                                      system
+web                                                     framework/text|decode|transcript|explain/.*             text
+command bench fuzz tests tests/kill tests/page tests/support .*                                                   system
 tests/qt                                                .*                                                      qt
 '
 # Window code, as its target names it, stands in the room of its subject.

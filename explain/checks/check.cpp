@@ -135,17 +135,21 @@ CheckResult Check::finish() {
     return {findings_.take(), findings_.counts(), summary};
 }
 
-std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
-    CheckRules rules;
-    rules.wanted = wanted;
-    rules.told = Findings::Told::each;
+CheckResult check(std::string_view text, const CheckRules &rules) {
     Check check(rules);
     SccReader reader(text);
     if (check.begin(text, reader.header(), reader.headerNumber())) {
         while (const SccLine *line = reader.next())
             check.take(*line);
     }
-    return check.finish().findings;
+    return check.finish();
+}
+
+std::vector<Finding> check(std::string_view text, const FindingKinds &wanted) {
+    CheckRules rules;
+    rules.wanted = wanted;
+    rules.told = Findings::Told::each;
+    return check(text, rules).findings;
 }
 
 } // namespace norvane

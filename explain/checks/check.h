@@ -54,7 +54,10 @@ class Check {
     bool needsCaptions_ = true; // nothing told already says why there are none
 };
 
-/// Each finding on a whole file. Any text is taken.
+/// Checks a whole file. Any text is taken.
+CheckResult check(std::string_view text, const CheckRules &rules);
+
+/// Each finding on a whole file.
 std::vector<Finding> check(std::string_view text, const FindingKinds &wanted);
 
 } // namespace norvane

@@ -342,18 +342,6 @@ void addKinds(JsonWriter &json, const CheckResult &result, bool hasAdvice) {
     json.endList();
 }
 
-CheckResult checkOf(std::string_view text) {
-    CheckRules rules;
-    rules.told = Findings::Told::each;
-    Check check(rules);
-    SccReader reader(text);
-    if (check.begin(text, reader.header(), reader.headerNumber())) {
-        while (const SccLine *line = reader.next())
-            check.take(*line);
-    }
-    return check.finish();
-}
-
 void addBeginning(JsonWriter &json, std::string_view name, std::string_view program) {
     json.beginObject();
     json.member("program", program);
@@ -372,7 +360,9 @@ PageData refusedPage(std::string_view name, std::string_view program, const Prob
 
 PageData pageData(std::string_view text, std::string_view name, std::string_view program,
                   Clock clock) {
-    const CheckResult result = checkOf(text);
+    CheckRules rules;
+    rules.told = Findings::Told::each;
+    const CheckResult result = check(text, rules);
     PageData data;
     data.refused = refusalOf(text, clock);
     JsonWriter summary;

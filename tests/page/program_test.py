@@ -1,0 +1,172 @@
+#!/usr/bin/env python3
+"""The program in a page, in Chromium, beside the companion. Takes the page and a release build."""
+import functools
+import hashlib
+import http.server
+import subprocess
+import sys
+import tempfile
+import threading
+from pathlib import Path
+
+from browser import chromium, console, requests
+from selenium.webdriver.common.by import By
+from selenium.webdriver.support.ui import WebDriverWait
+
+page, build = (Path(argument).resolve() for argument in sys.argv[1:])
+root = Path(__file__).parents[2]
+folder = tempfile.TemporaryDirectory()
+work = Path(folder.name)
+
+# For each film and each form and clock: the digest of an answer, or the refusal as the companion prints it.
+ANSWERS = '''
+const [task, form, clock, done] = arguments;
+document.querySelector(`[name=form][value="${form}"]`).checked = document.querySelector(`[name=clock][value="${clock}"]`).checked = true;
+Promise.all(films.map((film) => ask(task, film).then(async (bytes) =>
+    Array.from(new Uint8Array(await crypto.subtle.digest('SHA-256', bytes)), (byte) => byte.toString(16).padStart(2, '0')).join(''),
+    ({problem: {text, help, line}}) => `${film.name}:${line ? line + ':' : ''} ${text}\\n${help ? `  ${help}\\n` : ''}`))).then(done);
+'''
+
+
+def companion(*arguments):
+    return subprocess.run([build / 'command/norvane-transcript', *arguments], cwd=work, capture_output=True, timeout=120)
+
+
+def digest(path):
+    return hashlib.sha256(path.read_bytes()).hexdigest()
+
+
+def same(what, got, expected):
+    assert got == expected, f'{what}: {got!r}, not {expected!r}'
+
+
+def wait(condition, what):
+    WebDriverWait(driver, 60, 0.02).until(lambda _: condition(), what)
+
+
+def text(element):
+    return driver.find_element(By.ID, element).text
+
+
+def states():
+    return [state.text for state in driver.find_elements(By.CSS_SELECTOR, '#rows .state')]
+
+
+def take(*paths):
+    driver.find_element(By.ID, 'files').send_keys('\n'.join(map(str, paths)))
+
+
+def click(element):
+    driver.find_element(By.ID, element).click()
+
+
+def click_label(words):
+    driver.find_element(By.XPATH, f'//label[contains(., "{words}")]').click()
+
+
+def press(keys):
+    driver.find_element(By.TAG_NAME, 'body').send_keys(keys)
+
+
+def drop(*paths):
+    data = {'items': [], 'files': [str(path) for path in paths], 'dragOperationsMask': 1}
+    for kind in 'dragEnter', 'dragOver', 'drop':
+        driver.execute_cdp_cmd('Input.dispatchDragEvent', {'type': kind, 'x': 200, 'y': 30, 'data': data})
+
+
+def films_come_in_by_every_way():
+    (work / 'season/one').mkdir(parents=True)
+    hostile = '&lt;b.scc'
+    for name in f'season/{hostile}', 'season/one/show.scc', 'season/notes.txt', 'notes.txt':
+        (work / name).write_bytes((work / 'show.scc').read_bytes())
+    drop(work / 'show.scc', work / 'notes.txt')
+    wait(lambda: states() == ['ready', 'refused: This file does not have the .scc extension.'], 'dropped files')
+    drop(work / 'season')
+    wait(lambda: text('said') == '2 films added, 1 file without “scc” in the name left out.', 'a dropped folder')
+    click('paste')
+    driver.switch_to.active_element.send_keys('Header\n00:00:01:00 9420')
+    driver.find_element(By.CSS_SELECTOR, '#paste-form [type=submit]').click()
+    wait(lambda: len(states()) == 5 and states()[4].startswith('refused: This SCC file'), 'pasted text')
+    refusal = driver.find_element(By.CLASS_NAME, 'refusal').text
+    for part in 'Line 2:', 'It needs to have a tab', 'A blank stands where the tab should be':
+        assert part in refusal, refusal
+    names = [row.text for row in driver.find_elements(By.CSS_SELECTOR, '#rows th')]
+    same('the list', names, ['show.scc', 'notes.txt', hostile, 'show.scc', 'pasted.scc'])
+
+
+def transcripts_go_out():
+    take(work / 'night-train.scc')
+    click_label('Line by line form')
+    click_label('Keep SCC timecode')
+    expected = companion('night-train.scc', '--form', 'line').stdout
+    wait(lambda: driver.find_element(By.ID, 'text').get_property('textContent').encode() == expected, 'the form that was chosen')
+    press('s')
+    saved = work / 'downloads/night-train.txt'
+    wait(saved.exists, 'a saved transcript')
+    same('saved', saved.read_bytes(), expected)
+    press('c')
+    wait(lambda: text('said') == 'night-train.txt copied.', 'a copied transcript')
+
+
+def transcripts_go_into_a_folder():
+    # A folder of the browser's own, in place of one that the user picks.
+    driver.execute_script('window.showDirectoryPicker = () => navigator.storage.getDirectory();')
+    saved = """const done = arguments[0];
+        navigator.storage.getDirectory().then((folder) => folder.getFileHandle('show.txt')).then((file) => file.getFile()).then((file) => file.text()).then(done);"""
+    take(work / 'show.scc', work / 'notes.txt')
+    for replace, options, said in (False, (), '1 of 2'), (False, (), '0 of 2'), (True, ('--clock', 'scc'), '1 of 2'):
+        if replace:
+            click_label('Keep SCC timecode')
+            click('replace')
+        driver.execute_script("say('')")
+        click('save-to-folder')
+        wait(lambda: text('said') == f'{said} transcripts saved in “”.', said)
+        same('in the folder', driver.execute_async_script(saved).encode(), companion('show.scc', *options).stdout)
+    same('states', states()[0], 'saved as show.txt')
+
+
+def work_can_be_stopped():
+    with open(work / 'long.scc', 'wb') as film:
+        subprocess.run([build / 'bench/make_scc', 'film', '20000000'], stdout=film, check=True)
+    take(work / 'long.scc', work / 'show.scc')
+    wait(lambda: driver.find_element(By.ID, 'progress').get_attribute('value'), 'progress')
+    click('stop')
+    same('stopped', states()[-2:], ['stopped', 'stopped'])
+    driver.find_elements(By.CSS_SELECTOR, '#rows th button')[-1].click()
+    wait(lambda: states()[-1] == 'ready', 'a film behind the stop')
+
+
+def answers_are_the_companions():
+    names = [f'g{number}.scc' for number in range(1, 301)]
+    subprocess.run([build / 'tests/generated_films', '300'], cwd=work, check=True)
+    names += [sample.name for sample in samples]
+    take(*(work / name for name in names))
+    for form, form_name in enumerate(('timecode', 'line', 'paragraph')):
+        for clock, clock_name in enumerate(('unbuffered', 'scc')):
+            refused = {}
+            for name in names:
+                told = companion('--output-dir', 'out', '--force', '--form', form_name, '--clock', clock_name, name)
+                refused[name] = told.stderr.decode(errors='replace')
+            got = driver.execute_async_script(ANSWERS, 'transcript', form, clock)
+            for name, answer in zip(names, got):
+                same(f'{name}, {form_name}, {clock_name}', answer, refused[name] or digest(work / f'out/{name[:-4]}.txt'))
+    got = driver.execute_async_script(ANSWERS, 'check', 0, 0)
+    same('findings', got, [hashlib.sha256(companion('--check', '--json', name).stdout).hexdigest() for name in names])
+
+
+samples = [*(root / 'tests/samples').glob('*.scc'), *(root / 'resources/samples').glob('*.scc')]
+for sample in samples:
+    (work / sample.name).write_bytes(sample.read_bytes())
+handler = functools.partial(http.server.SimpleHTTPRequestHandler, directory=page.parent)
+handler.func.log_message = lambda *_: None
+server = http.server.ThreadingHTTPServer(('localhost', 0), handler)
+threading.Thread(target=server.serve_forever, daemon=True).start()
+served = f'http://localhost:{server.server_port}/{page.name}'
+with chromium(downloads=work / 'downloads') as driver:
+    for scenario, address in ((films_come_in_by_every_way, page.as_uri()), (transcripts_go_out, page.as_uri()), (transcripts_go_into_a_folder, served),
+                              (work_can_be_stopped, page.as_uri()), (answers_are_the_companions, page.as_uri())):
+        driver.get(address)
+        scenario()
+        same('console', console(driver), [])
+        same('requests', requests(driver), [address])
+print('The page does what it should.')

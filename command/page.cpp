@@ -22,7 +22,7 @@ constexpr std::string_view kProgram = "norvane-transcript " NORVANE_VERSION;
 constexpr const char *kIndexName = "index.html";
 
 /// The largest file that becomes a page: a day of captions has less, and no browser likes more.
-constexpr std::size_t kLargest = std::size_t{8} << 20U;
+constexpr std::size_t kLargest = std::size_t{4} << 20U;
 
 /// Opens `path` as `input`. Never throws: what goes wrong with a film is its page.
 PageData dataOf(const std::string &path, const std::string &shown, const Options &options,

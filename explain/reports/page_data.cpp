@@ -338,7 +338,7 @@ void addKinds(JsonWriter &json, const CheckResult &result, bool hasAdvice) {
         }
     }
     if (hasAdvice)
-        addKind(json, kAdvice, Severity::note, "what else a transcript has otherwise");
+        addKind(json, kAdvice, Severity::note, "other remarks on the transcript");
     json.endList();
 }
 

@@ -573,7 +573,6 @@ function showFilm(data, root) {
     const paint = () => {
         const row = state.row;
         if (!row) return;
-        document.documentElement.style.setProperty('--bar', `${getComputedStyle(bar).position === 'sticky' ? bar.offsetHeight : 0}px`);
         const length = kSpans[state.span] * kFramesASecond;
         const middle = row.captions.length ? (row.frame + row.captions[0].startFrame) / 2 : row.frame;
         const from = Math.max(film.from - 15, Math.min(middle - length / 2, film.to + 15 - length));
@@ -583,6 +582,8 @@ function showFilm(data, root) {
         strip.style.setProperty('--from', share(Math.max(0, from - film.from)));
         strip.style.setProperty('--length', share(Math.min(length, film.to - from)));
         fillStretch(stretch, film, view, choose);
+        const covered = getComputedStyle(bar).position === 'sticky' ? bar.offsetHeight : 0;
+        document.documentElement.style.setProperty('--bar', `${covered}px`);
     };
     const paintAll = () => {
         paint();
@@ -610,8 +611,8 @@ function showFilm(data, root) {
         strip.setAttribute('aria-valuenow', row.index + 1);
         strip.setAttribute('aria-valuetext', `Line ${row.line.line}, ${row.line.timecode || 'header'}`);
         if (withFocus) row.button.focus({preventScroll: true});
-        if (withScroll) row.element.scrollIntoView({block: row.detail ? 'start' : 'center'});
         paint();
+        if (withScroll) row.element.scrollIntoView({block: row.detail ? 'start' : 'center'});
     }
     const step = (by, wanted) => {
         const at = visible.indexOf(state.row);

@@ -83,7 +83,7 @@ void explainWith(const Place &place, const Options &options) {
         printer.printMuch();
     }
     if (isFirst && choice.text.empty() && choice.time.empty() && !choice.advised)
-        throw Problem("there is no such line, or nothing stands in it.", "", place.firstLine);
+        throw Problem("there is no such line, or it is empty.", "", place.firstLine);
     if (isFirst && !choice.advised)
         throw Problem("no line of the file is of that text or time.");
     printer.print();

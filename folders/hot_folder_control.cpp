@@ -24,7 +24,7 @@ void Window1::readInterval() {
     constexpr double kMillisecondsPerMinute = 60000;
     Timer1.Period = wholeMilliseconds(Val(timerText.Text.get()) * kMillisecondsPerMinute);
     timerText.hint = Timer1.Period > 0 ? ""
-                                       : "The folder will not be checked: this is no number of "
+                                       : "The folder will not be checked: this is not a number of "
                                          "minutes above 0, such as 15 or 0.5.";
 }
 

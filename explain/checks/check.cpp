@@ -19,9 +19,9 @@ std::string headerFault(std::string_view header) {
     if (header.starts_with(kSccHeader))
         return "";
     if (std::holds_alternative<DataLine>(takeApart(header))) {
-        return "The file has no header, so that its first caption counts as one and is lost: put "
+        return "The file has no header, so that its first caption is lost in its place: insert "
                "the line " +
-               inQuotes(kSccHeader) + " ahead of it.";
+               inQuotes(kSccHeader) + " before it.";
     }
     return "The first line is " + startInQuotes(header) + ", and not " + inQuotes(kSccHeader) +
            ", by which programs know the format: correct it.";
@@ -89,9 +89,9 @@ void Check::lookAtEntry(const SccLine &line) {
     const std::size_t read = line.data.timecode.size() + kFirstTab + line.data.hexText.size();
     if (read < line.text.size()) {
         findings_.add(line.number, FindingKind::tab, 1, [&] {
-            return findingOn(line, "What stands behind the second tab, " +
+            return findingOn(line, "The text after the second tab, " +
                                        startInQuotes(line.text.substr(read + 1)) +
-                                       ", is not read: put a blank in the place of that tab.");
+                                       ", is not read: put a space in place of that tab.");
         });
     }
     walk_.walk(line);

@@ -75,7 +75,7 @@ void lookAtLost(const Caption &caption, const CaptionTeller &teller) {
                (isErased ? " is loaded, and line " + std::to_string(caption.removedBy->line) +
                                " erases it before anything shows it: send EOC (942f 942f) ahead "
                                "of that."
-                         : " is loaded, and nothing shows it: send EOC (942f 942f) behind it.");
+                         : " is loaded, and nothing shows it: send EOC (942f 942f) after it.");
     });
 }
 
@@ -168,7 +168,7 @@ void CaptionCheck::lookAtGap(const Caption &caption, Findings &findings) {
     if (limits_.gap && end && gap >= 0 && static_cast<double>(gap) < *limits_.gap) {
         CaptionTeller(caption, summary_.dropFrame, findings).onShowing(FindingKind::gap, 0, [&] {
             return startOf(caption) + " comes " + frames(gap) +
-                   " behind the caption before it, while " + number(*limits_.gap) +
+                   " after the caption before it, but " + number(*limits_.gap) +
                    " are wanted at least: take that one away earlier.";
         });
     }
@@ -210,7 +210,7 @@ void CaptionCheck::lookAtLength(const CaptionRow &row, const CaptionTeller &tell
     if (row.beyond > 0) {
         teller.onWord(row.cells.back().sent, FindingKind::columns, 0, {}, [&] {
             return "A row of text ends in column " + std::to_string(kScreenColumns + row.beyond) +
-                   ", while a screen has 32: break the row.";
+                   ", but the screen has 32: break the row.";
         });
     }
     const auto length = static_cast<long>(row.cells.size());

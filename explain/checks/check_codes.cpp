@@ -45,7 +45,7 @@ Finding malformedWords(const SccLine &line) {
     const auto words = wordsThat(line, [](const SccWord &word) { return !word.isCode; });
     return findingOnWords(
         line, words, "", [](const SccWord &word) { return startInQuotes(word.digits); },
-        std::string(words.size() == 1 ? " is no word" : " are no words") +
+        std::string(words.size() == 1 ? " is not a word" : " are not words") +
             " of four hex digits: correct the line.");
 }
 
@@ -66,7 +66,7 @@ bool isUnknown(const SccWord &word) {
 Finding unknownCodes(const SccLine &line) {
     const auto words = wordsThat(line, isUnknown);
     return findingOnWords(line, words, "", digitsOf,
-                          std::string(words.size() == 1 ? ": no code" : ": no codes") +
+                          std::string(words.size() == 1 ? ": not a code" : ": not codes") +
                               " of CEA-608. Correct or delete.");
 }
 
@@ -232,8 +232,9 @@ void CodeCheck::tellSingles(Findings &findings) {
             }
             for (std::size_t i = singles_.codes.size(); i < singles_.count; ++i)
                 list.add("");
-            finding.text = list.text() +
-                           ": sent once, while the file sends its codes twice. Correct the line.";
+            finding.text =
+                list.text() +
+                ": sent only once, although the file sends its codes twice. Correct the line.";
             finding.timecode = singles_.timecode;
             finding.frame = singles_.frames.front();
             return finding;

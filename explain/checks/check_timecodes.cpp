@@ -40,8 +40,8 @@ void TimecodeCheck::look(const SccLine &line, Findings &findings) {
         first_ = now;
     if (timecode.dropFrame != first_->timecode.dropFrame) {
         tell(line, FindingKind::separator, findings, [&] {
-            return "The frames stand behind " + markOf(timecode) + ", and in line " +
-                   std::to_string(first_->line) + " behind " + markOf(first_->timecode) +
+            return "The frames follow " + markOf(timecode) + ", but in line " +
+                   std::to_string(first_->line) + " they follow " + markOf(first_->timecode) +
                    ": ask which of them is meant.";
         });
     }
@@ -74,7 +74,7 @@ void TimecodeCheck::lookAtFrames(const SccLine &line, Findings &findings) {
     } else if (timecode.isDropped()) {
         tell(line, FindingKind::droppedFrame, findings, [&] {
             return std::string(line.data.timecode) +
-                   " does not exist: drop-frame leaves out the frames 00 and 01 of each minute but "
+                   " does not exist: drop-frame skips the frames 00 and 01 of each minute but "
                    "every tenth. Correct the timecode.";
         });
     }
@@ -86,8 +86,8 @@ void TimecodeCheck::lookAtOrder(const SccLine &line, Findings &findings) const {
     const long end = start + before_->words;
     if (timecode.count() < start) {
         tell(line, FindingKind::order, findings, [&] {
-            return "The timecode lies before that of line " + std::to_string(before_->line) + ", " +
-                   textOf(before_->timecode) + ": put the lines in order.";
+            return "The timecode is earlier than that of line " + std::to_string(before_->line) +
+                   ", " + textOf(before_->timecode) + ": put the lines in order.";
         });
     } else if (timecode.count() < end) {
         tell(line, FindingKind::overlap, findings, [&] {

@@ -20,38 +20,40 @@ constexpr std::string_view kNul = "\0"sv;
 
 std::string foreignFormat(std::string_view text) {
     if (!text.empty() && holdsOnly(text, kNul))
-        return "The file holds nothing but NULs, as a failed copy leaves it: ask for it again.";
+        return "The file holds nothing but NULs, which is what a failed copy leaves: ask for it "
+               "again.";
     if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF") ||
         text.substr(0, 2).find('\0') != std::string_view::npos)
         return "The text is in UTF-16: save it as plain text or UTF-8.";
     text = withoutByteOrderMark(text);
     if (text.starts_with("WEBVTT"))
-        return "These are WebVTT subtitles under the name of an SCC file: ask for the SCC file.";
+        return "These are WebVTT subtitles with the name of an SCC file: ask for the SCC file.";
     LineReader lines(text);
     const std::string_view number = lines.nextNotEmpty();
     if (!number.empty() && holdsOnly(number, "0123456789") &&
         lines.next().find(" --> ") != std::string_view::npos)
-        return "These are SubRip subtitles under the name of an SCC file: ask for the SCC file.";
+        return "These are SubRip subtitles with the name of an SCC file: ask for the SCC file.";
     return "";
 }
 
 std::string refusalHelp(std::string_view line) {
     constexpr std::size_t kTimecodeSize = 11;
     if (holdsOnly(line, kNul))
-        return "The line holds nothing but NULs, as a failed copy leaves it: ask for the file "
+        return "The line holds nothing but NULs, which is what a failed copy leaves: ask for the "
+               "file "
                "again.";
     if (holdsOnly(line, " \t"))
-        return "The line holds nothing but blanks, and only a line without any character is "
-               "passed over: delete it.";
+        return "The line has nothing but spaces, and only lines without any character are "
+               "skipped: delete it.";
     for (const std::string_view comment : {"//", "/*", "#", ";", "--", "NOTE"}) {
         if (line.starts_with(comment))
-            return "The line looks like a comment, and an SCC file has none: delete it.";
+            return "The line looks like a comment, but SCC files cannot have comments: delete it.";
     }
     if (readFrameTimecode(line.substr(0, kTimecodeSize)) && line.size() > kTimecodeSize &&
         line[kTimecodeSize] == ' ')
-        return "A blank stands where the tab should be: put a tab behind the timecode, here and "
+        return "There is a space in place of the tab: put a tab after the timecode, here and "
                "in all other lines.";
-    return "Behind the header, each line must be timecode, tab and words of four hex digits: "
+    return "After the header, each line must be a timecode, a tab and words of four hex digits: "
            "correct it.";
 }
 

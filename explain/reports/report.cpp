@@ -149,7 +149,7 @@ void addWords(JsonWriter &json, const Explanation &explanation) {
 void addHeader(TextReport &report, std::string_view file, std::size_t line, std::string_view header,
                const std::vector<std::string> &advice) {
     addPlace(report, file, line);
-    report.add("header, passed over: ").add(startInQuotes(header));
+    report.add("header, ignored: ").add(startInQuotes(header));
     report.endLine();
     addAdvice(report, advice);
 }

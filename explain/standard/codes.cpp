@@ -163,7 +163,7 @@ Draft draftOf(unsigned first, unsigned second) {
     } else if (first > 0 && first < 0x10) {
         meaning.kind = CodeKind::otherData;
         meaning.secondField = true;
-        draft.name = "XDS, data beside the captions";
+        draft.name = "XDS, extended data services";
     } else if ((first == 0 || first >= 0x20) && (second == 0 || second >= 0x20)) {
         meaning.kind = CodeKind::text;
         for (const unsigned byte : {first, second}) {

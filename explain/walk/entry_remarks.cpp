@@ -184,7 +184,7 @@ void Remarker::remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> c
     if (crossings.size() > kMost)
         text += " and " + std::to_string(crossings.size() - kMost) + " more";
     add(Kind::altered, crossings.front().row, word, lastWord - word + 1,
-        text + (sound ? ". The file is sound: correct the transcript."
+        text + (sound ? ". The file is correct: edit the transcript."
                       : ". Correct these words of the file first."));
 }
 
@@ -201,8 +201,9 @@ void Remarker::remarkOnDigits() {
             if (!inStep && i + 1 < line_.words.size() && !isNarrow(line_.words[i + 1])) {
                 add(Kind::altered, kNarrowCause | word.code, i, 1,
                     std::string(word.digits).append(", ").append(word.meaning->name) +
-                        ", has no blank in the transcript, and what follows is read out of step. "
-                        "The file is sound: correct the transcript.");
+                        ", loses its space in the transcript, and what follows is read out of "
+                        "step. "
+                        "The file is correct: edit the transcript.");
             }
             continue;
         }
@@ -222,7 +223,7 @@ void Remarker::remarkOnDigits() {
     if (!kept.empty()) {
         add(Kind::digits, line_.words[first].code, first, last - first + 1,
             "The program does not know " + kept.text() +
-                ". The file is sound: correct the transcript.");
+                ". The file is correct: edit the transcript.");
     }
 }
 
@@ -262,7 +263,7 @@ void Remarker::remarkOnWords() {
     }
     if (told.style)
         add(Kind::advice, 0, 0, line_.words.size(),
-            "“--” stands for a change of style, which takes a column: put a blank in its place.");
+            "“--” stands for a change of style, which takes a column: put a space in its place.");
     if (told.block)
         add(Kind::advice, 1, 0, line_.words.size(),
             "“█” is a bar to the program, which takes bars out or makes them blanks: correct the "
@@ -287,15 +288,15 @@ void Remarker::remarkOnOther(std::size_t index, Told &told) {
         told.style = true;
     } else if (isCharacterCode(word) && stands && word.repeats) {
         add(Kind::advice, word.code, index - 1, 2,
-            inQuotes(meaning.shown) + " is sent twice, as codes are, and stands twice in the "
-                                      "transcript: take one out.");
+            inQuotes(meaning.shown) + " is sent twice, as codes are, and appears twice in the "
+                                      "transcript: delete one.");
     } else if (meaning.kind == CodeKind::extended && stands && fallbackOf(index) != index) {
         const std::size_t fallback = fallbackOf(index);
         const std::string plain = inQuotes(lastCharacter(line_.words[fallback].meaning->shown));
         add(Kind::advice, word.code, fallback, index - fallback + 1,
             inQuotes(meaning.shown) + " takes the place of the " + plain +
-                " before it, which is for old decoders; the transcript has both: take " + plain +
-                " out.");
+                " before it, which is for old decoders; the transcript has both: delete " + plain +
+                ".");
     } else if (word.repeats || fate.isBlank || (stands && isDoubled(index))) {
         return; // a blank parts as the code does, and of two that are the same one is advised on
     } else if (!isCharacters(meaning) && meaning.code != code::kBs && !stands) {
@@ -349,7 +350,7 @@ void Remarker::remarkOnTheRest() {
         add(Kind::altered, kDifferenceCause, 0, line_.words.size(),
             "The viewer reads " + (seen.empty() ? "nothing" : startInQuotes(seen)) +
                 ", the transcript has " + startInQuotes(written) +
-                ". The file is sound: correct the transcript.");
+                ". The file is correct: edit the transcript.");
 }
 
 /// What the viewer reads and what the transcript says, where no row of its own explains it.
@@ -382,7 +383,7 @@ void Remarker::remarkOnDifference(std::size_t index, const WordFate &fate) {
         text = "The viewer reads " + startInQuotes(around.text) + ", the transcript has " +
                startInQuotes(written) + ": of " + is + " it has " +
                (fate.text.empty() ? "nothing" : inQuotes(fate.text)) +
-               ". The file is sound: correct the transcript.";
+               ". The file is correct: edit the transcript.";
     }
     if (!text.empty())
         add(Kind::altered, kDifferenceCause | word.code, index, 1, text);
@@ -397,9 +398,9 @@ void Remarker::remarkOnGluing(std::size_t code) {
     if (isCharacters(left) && !left.shown.ends_with(' ') && isCharacters(right) &&
         !right.shown.starts_with(' ')) {
         add(Kind::altered, kGlueCause | line_.words[code].code, ahead, next - ahead + 1,
-            std::string(line_.words[code].digits) + " parts " + saidBy(ahead) + " and " +
+            std::string(line_.words[code].digits) + " separates " + saidBy(ahead) + " and " +
                 saidBy(next) +
-                " on the screen, but the transcript has nothing for it: put a blank between them.");
+                " on the screen, but the transcript has nothing for it: put a space between them.");
     }
 }
 

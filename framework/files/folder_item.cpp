@@ -140,7 +140,7 @@ Ref<FolderItem> GetFolderItem(const std::string &path, int /*mode*/, Links links
     if (path.empty())
         return Ref<FolderItem>::nil("No folder or file was named.");
     if (!path.starts_with(kSeparator) || path.find('\0') != std::string::npos)
-        return Ref<FolderItem>::nil(inQuotes(path) + " is no full path of a folder or file.");
+        return Ref<FolderItem>::nil(inQuotes(path) + " is not the full path of a folder or file.");
     const std::string folder = disk::folderOf(withoutEndSeparator(path));
     if (disk::kindOf(folder, disk::Kind::folder, links) != disk::Kind::folder)
         return Ref<FolderItem>::nil(inQuotes(path) + " is in a folder that does not exist.");

@@ -395,8 +395,9 @@ TEST_F(MainWindow, FieldsAndModelsStayInStep) {
     EXPECT_EQ(window().Timer1.Period, 30000);
     for (const char *never : {"0,5", "abc", "", "0"}) {
         window().timerText.Text = never;
-        const QString hint = QStringLiteral("The folder will not be checked: this is no number of "
-                                            "minutes above 0, such as 15 or 0.5.");
+        const QString hint =
+            QStringLiteral("The folder will not be checked: this is not a number of "
+                           "minutes above 0, such as 15 or 0.5.");
         EXPECT_EQ(field->accessibleDescription(), hint);
         EXPECT_NE(field->toolTip(), "");
         window().timerText.Text = "2";

@@ -268,6 +268,7 @@ TEST(Check, FindsWhatIsWrongWithCaptions) {
         {"RCL 1450 Hi 1470 Yo EOC @35 EDM", "rows@2", "rows", 1},
         {"RCL 1260 Hi 1340 Yo EOC @35 EDM", "", "upper-rows", 0},
         {"RCL 1540 Hi EOC @35 EDM", "upper-rows@2", "upper-rows", 0},
+        {"RCL 1540 Hi EOC @35 RCL 1540 Yo EOC", "upper-rows@2x2 never-erased@3", "upper-rows", 0},
     };
     for (const CheckRow &row : rows) {
         EXPECT_EQ(kindsIn(row), row.kinds) << row.words << " " << row.limit << row.value;

@@ -120,8 +120,8 @@ void Check::lookAtRemarks(const SccLine &line) {
 }
 
 CheckResult Check::finish() {
-    codes_.finish(findings_);
     decoder_.finish();
+    codes_.finish(findings_);
     FilmSummary summary = captions_.summary();
     summary.lines = lines_;
     summary.dropFrame = dropFrame_.value_or(false);

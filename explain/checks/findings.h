@@ -52,10 +52,10 @@ class Findings {
         list_.push_back(std::move(finding));
     }
 
-    /// Takes back all of a kind.
+    /// Takes back all of a kind. Afterwards, only kinds that were never added may be.
     void takeBack(FindingKind kind);
 
-    /// Leaves one of a kind, with another text.
+    /// Leaves one of a kind, with another text. The same holds afterwards.
     void tellOnce(FindingKind kind, const std::string &text);
 
     /// In the order of their lines; those on one line as they were added. To be called once.

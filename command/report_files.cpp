@@ -2,6 +2,7 @@
 
 #include "command/input.h"
 #include "explain/checks/check.h"
+#include "explain/reports/film_report.h"
 #include "explain/reports/json.h"
 #include "explain/reports/report.h"
 #include "explain/reports/summary_report.h"
@@ -35,57 +36,17 @@ class Printer {
     Report report_;
 };
 
-/// Ends a report where another is to follow.
-void part(TextReport &report, bool isFirst) {
-    if (!isFirst)
-        report.endLine();
-}
-void part(JsonWriter & /*json*/, bool /*isFirst*/) {}
-
 template <class Report>
 void explainWith(const Place &place, const Options &options) {
     Input input(place.path, options);
-    const std::string_view text = input.all();
-    const std::string shown = shownName(place.path, options);
-    FindingKinds ofFile = options.rules.wanted;
-    for (const FindingKind kind : {FindingKind::digits, FindingKind::altered,     // the line's own
-                                   FindingKind::neverErased, FindingKind::empty}) // the film's
-        ofFile.reset(static_cast<std::size_t>(kind));
-    const std::vector<Finding> findings = check(text, ofFile);
-    Explainer explainer(options.clock, findings);
-    const FilmCaptions captions(text);
-    LineChoice choice = options.choice;
+    ExplanationOptions wanted{options.clock, options.choice, options.screen};
     if (place.firstLine != 0) {
-        choice.firstLine = place.firstLine;
-        choice.lastLine = place.lastLine;
+        wanted.choice.firstLine = place.firstLine;
+        wanted.choice.lastLine = place.lastLine;
     }
-    const LineChooser chooser(choice, captions);
     Printer<Report> printer;
-    bool isFirst = true;
-    const auto begin = [&] {
-        part(printer.report(), isFirst);
-        isFirst = false;
-    };
-    SccReader reader(text);
-    const auto onHeader = explainer.adviceOnHeader(reader.headerNumber());
-    if (chooser.wantsHeader(reader.headerNumber(), !onHeader.empty())) {
-        begin();
-        addHeader(printer.report(), shown, reader.headerNumber(), reader.header(), onHeader);
-    }
-    while (const SccLine *line = reader.next()) {
-        if (!choice.isInRange(line->number))
-            continue;
-        const Explanation &explanation = explainer.explain(*line);
-        if (!chooser.wants(explanation))
-            continue;
-        begin();
-        add(printer.report(), shown, explanation, captions, options.screen);
-        printer.printMuch();
-    }
-    if (isFirst && choice.text.empty() && choice.time.empty() && !choice.advised)
-        throw Problem("there is no such line, or it is empty.", "", place.firstLine);
-    if (isFirst && !choice.advised)
-        throw Problem("no line of the file is of that text or time.");
+    explainFilm(input.all(), shownName(place.path, options), wanted, printer.report(),
+                [&printer] { printer.printMuch(); });
     printer.print();
 }
 

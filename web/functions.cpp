@@ -1,5 +1,6 @@
 #include "explain/checks/check.h"
 #include "explain/checks/film_transcript.h"
+#include "explain/reports/film_report.h"
 #include "explain/reports/page_data.h"
 #include "explain/reports/report.h"
 #include "framework/text/text.h"
@@ -22,7 +23,7 @@ struct Text {
 };
 
 /// Bytes of a film; what there is to show has some twenty times as many.
-constexpr std::size_t kLargestShown = std::size_t{8} << 20U;
+constexpr std::size_t kLargestShown = std::size_t{4} << 20U;
 
 constexpr std::string_view kOtherWay = "paste its text";
 
@@ -120,6 +121,16 @@ EXPORTED(page) Text *page(const Text *name, const Text *film, Clock clock) {
             return std::string(R"({"isTooLarge":true})");
         return pageData(film->bytes, printable(name->bytes), "Norvane " NORVANE_VERSION, clock)
             .film;
+    });
+}
+
+/// What --explain --json prints.
+EXPORTED(explain) Text *explain(const Text *name, const Text *film, Clock clock) {
+    return answer([&] {
+        requireSccName(name->bytes, kOtherWay);
+        JsonWriter json;
+        explainFilm(film->bytes, printable(name->bytes), {clock}, json, [] {});
+        return std::string(json.bytes());
     });
 }
 

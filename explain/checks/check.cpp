@@ -40,10 +40,12 @@ void lookAtLostEntry(const SccLine &line, Findings &findings) {
 
 } // namespace
 
-Check::Check(const CheckRules &rules)
+Check::Check(const CheckRules &rules, CaptionSink also)
     : findings_(rules.wanted, rules.told), captions_(rules.limits),
-      decoder_([this](const Caption &caption) {
+      decoder_([this, sink = std::move(also)](Caption &&caption) {
           captions_.look(caption, dropFrame_.value_or(false), findings_);
+          if (sink)
+              sink(std::move(caption));
       }) {}
 
 bool Check::begin(std::string_view beginning, std::string_view header, std::size_t headerNumber) {
@@ -135,8 +137,8 @@ CheckResult Check::finish() {
     return {findings_.take(), findings_.counts(), summary};
 }
 
-CheckResult check(std::string_view text, const CheckRules &rules) {
-    Check check(rules);
+CheckResult check(std::string_view text, const CheckRules &rules, CaptionSink also) {
+    Check check(rules, std::move(also));
     SccReader reader(text);
     if (check.begin(text, reader.header(), reader.headerNumber())) {
         while (const SccLine *line = reader.next())

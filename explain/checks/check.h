@@ -24,7 +24,8 @@ struct CheckResult {
 /// Checks a film as it is read. The memory does not grow with it but for what is told.
 class Check {
   public:
-    explicit Check(const CheckRules &rules);
+    /// `also` takes the captions, as FilmDecoder tells them, when somebody else wants them.
+    explicit Check(const CheckRules &rules, CaptionSink also = {});
     Check(const Check &) = delete;
     Check &operator=(const Check &) = delete;
 
@@ -54,10 +55,10 @@ class Check {
     bool needsCaptions_ = true; // nothing told already says why there are none
 };
 
-/// Checks a whole file. Any text is taken.
-CheckResult check(std::string_view text, const CheckRules &rules);
+/// Checks a whole file. Any text is taken. For `also` see Check.
+CheckResult check(std::string_view text, const CheckRules &rules, CaptionSink also = {});
 
-/// Each finding on a whole file.
+/// Each finding on a whole file. Any text is taken.
 std::vector<Finding> check(std::string_view text, const FindingKinds &wanted);
 
 } // namespace norvane

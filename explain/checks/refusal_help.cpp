@@ -61,7 +61,7 @@ std::string entryHelp(const DataLine &line, Clock clock) {
     constexpr std::size_t kFields = 4;
     return clock == Clock::unbuffered &&
                    Split(ReplaceAll(line.timecode, ";", ":"), ":").size() < kFields
-               ? "Write HH:MM:SS:FF, or take the timecodes as they stand with --clock scc."
+               ? "Write HH:MM:SS:FF, or keep the times as the file has them."
                : "Characters are read in pairs: correct the words of this line.";
 }
 

@@ -18,6 +18,15 @@ FilmCaptions::FilmCaptions(std::string_view film) {
         }
     }
     decoder.finish();
+    link();
+}
+
+FilmCaptions::FilmCaptions(std::vector<Caption> list, bool dropFrame)
+    : list_(std::move(list)), dropFrame_(dropFrame) {
+    link();
+}
+
+void FilmCaptions::link() {
     std::stable_sort(list_.begin(), list_.end(), [](const Caption &a, const Caption &b) {
         return a.number - 1 < b.number - 1; // 0, which is never shown, comes last
     });
@@ -43,7 +52,8 @@ FilmCaptions::Range FilmCaptions::of(const Links &links, std::size_t line) {
 }
 
 std::string FilmCaptions::timecodeOf(long frame) const {
-    return frameTimecode(frame, dropFrame_);
+    const long day = FrameTimecode{24, 0, 0, 0, dropFrame_}.count();
+    return frameTimecode(frame % day, dropFrame_);
 }
 
 } // namespace norvane

@@ -11,6 +11,9 @@ class FilmCaptions {
   public:
     explicit FilmCaptions(std::string_view film);
 
+    /// Of what a FilmDecoder told of a film.
+    FilmCaptions(std::vector<Caption> list, bool dropFrame);
+
     /// Those that were shown, in the order of their starts: caption n stands at n - 1. Behind them
     /// those that nobody saw, with the number 0.
     const std::vector<Caption> &list() const { return list_; }
@@ -36,9 +39,11 @@ class FilmCaptions {
     Range shownBy(std::size_t line) const { return of(shown_, line); }
     Range removedBy(std::size_t line) const { return of(removed_, line); }
 
+    /// Begins anew at midnight.
     std::string timecodeOf(long frame) const;
 
   private:
+    void link();
     static Range of(const Links &links, std::size_t line);
 
     std::vector<Caption> list_;

@@ -26,13 +26,16 @@ inline void endPart(JsonWriter & /*json*/) {}
 template <class Report, class Added>
 void explainFilm(std::string_view text, std::string_view file, const ExplanationOptions &options,
                  Report &report, Added added) {
-    FindingKinds ofFile = FindingKinds().set();
+    CheckRules rules;
+    rules.told = Findings::Told::each;
     for (const FindingKind kind : {FindingKind::digits, FindingKind::altered,     // the line's own
                                    FindingKind::neverErased, FindingKind::empty}) // the film's
-        ofFile.reset(static_cast<std::size_t>(kind));
-    const std::vector<Finding> findings = check(text, ofFile);
-    Explainer explainer(options.clock, findings);
-    const FilmCaptions captions(text);
+        rules.wanted.reset(static_cast<std::size_t>(kind));
+    std::vector<Caption> list;
+    const CheckResult result =
+        check(text, rules, [&list](Caption &&caption) { list.push_back(std::move(caption)); });
+    Explainer explainer(options.clock, result.findings);
+    const FilmCaptions captions(std::move(list), result.summary.dropFrame);
     const LineChoice &choice = options.choice;
     const LineChooser chooser(choice, captions);
     bool isFirst = true;

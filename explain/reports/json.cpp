@@ -47,8 +47,8 @@ void JsonWriter::close(char bracket) {
 }
 
 void JsonWriter::name(std::string_view name) {
-    add(name);
-    bytes_ += ':';
+    comma();
+    bytes_.append("\"").append(name).append("\":");
     wantsComma_ = false;
 }
 
@@ -60,24 +60,28 @@ void JsonWriter::addBare(std::string_view value) {
 void JsonWriter::add(std::string_view text) {
     comma();
     bytes_ += '"';
-    while (!text.empty()) {
-        std::size_t plain = 0;
-        while (plain < text.size() && isPlain(text[plain]))
-            ++plain;
-        bytes_ += text.substr(0, plain);
-        text.remove_prefix(plain);
-        if (text.empty())
-            break;
-        const std::string_view character = text.substr(0, characterSize(text));
-        if (character.size() == 1 && static_cast<unsigned char>(character[0]) >= 0x80)
-            bytes_ += "\uFFFD";
-        else if (isHarmful(character))
-            appendEscape(bytes_, valueOf(character));
-        else
-            bytes_.append(character == "\"" || character == "\\" ? "\\" : "").append(character);
-        text.remove_prefix(character.size());
+    std::size_t done = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        if (isPlain(text[at])) {
+            ++at;
+            continue;
+        }
+        const std::string_view character = text.substr(at, characterSize(text.substr(at)));
+        const bool isBroken = character.size() == 1 && text[at] < 0;
+        const bool isMark = text[at] == '"' || text[at] == '\\';
+        if (isBroken || isMark || isHarmful(character)) {
+            bytes_.append(text, done, at - done);
+            if (isBroken)
+                bytes_ += "\uFFFD";
+            else if (isMark)
+                bytes_.append("\\").append(character);
+            else
+                appendEscape(bytes_, valueOf(character));
+            done = at + character.size();
+        }
+        at += character.size();
     }
-    bytes_ += '"';
+    bytes_.append(text, done).append("\"");
 }
 
 void JsonWriter::endLine() {

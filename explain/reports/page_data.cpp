@@ -362,7 +362,9 @@ PageData pageData(std::string_view text, std::string_view name, std::string_view
                   Clock clock) {
     CheckRules rules;
     rules.told = Findings::Told::each;
-    const CheckResult result = check(text, rules);
+    std::vector<Caption> list;
+    const CheckResult result =
+        check(text, rules, [&list](Caption &&caption) { list.push_back(std::move(caption)); });
     PageData data;
     data.refused = refusalOf(text, clock);
     JsonWriter summary;
@@ -384,7 +386,7 @@ PageData pageData(std::string_view text, std::string_view name, std::string_view
     } else {
         json.name("refused");
         json.addNull();
-        const FilmCaptions captions(text);
+        const FilmCaptions captions(std::move(list), result.summary.dropFrame);
         Explainer explainer(clock, result.findings);
         LineWriter lines(json, captions, result.findings);
         json.name("lines");

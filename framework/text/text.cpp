@@ -149,24 +149,29 @@ bool isHarmful(std::string_view character) {
         return last < ' ' || (last >= 0x7F && last < 0xA0);
     if (character.size() == 2)
         return (character[0] == '\xC2' && last < 0xA0) || character == "\u061C";
-    return character == "\u200E" || character == "\u200F" ||
-           (character >= "\u2028" && character <= "\u202E") ||
-           (character >= "\u2066" && character <= "\u2069");
+    const auto second = static_cast<unsigned char>(character[1]);
+    if (character.size() != 3 || character[0] != '\xE2')
+        return false;
+    return second == 0x80   ? last == 0x8E || last == 0x8F || (last >= 0xA8 && last <= 0xAE)
+           : second == 0x81 ? last >= 0xA6 && last <= 0xA9
+                            : false;
 }
 
 void appendPrintable(std::string &result, std::string_view text) {
-    while (!text.empty()) {
-        std::size_t plain = 0;
-        while (plain < text.size() && text[plain] >= ' ' && text[plain] < 0x7F)
-            ++plain;
-        result += text.substr(0, plain);
-        text.remove_prefix(plain);
-        if (text.empty())
-            return;
-        const std::string_view character = text.substr(0, characterSize(text));
-        result += isHarmful(character) && character != "\t" ? std::string_view("?") : character;
-        text.remove_prefix(character.size());
+    std::size_t done = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        if (text[at] >= ' ' && text[at] < 0x7F) {
+            ++at;
+            continue;
+        }
+        const std::string_view character = text.substr(at, characterSize(text.substr(at)));
+        if (isHarmful(character) && character != "\t") {
+            result.append(text, done, at - done).append("?");
+            done = at + character.size();
+        }
+        at += character.size();
     }
+    result.append(text, done);
 }
 
 std::string printable(std::string_view text) {

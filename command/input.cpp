@@ -101,8 +101,12 @@ void tell(const std::string &shownFile, const Problem &problem, bool json) {
                           : shownFile + ":" + std::to_string(problem.line) + ": ";
     const std::string help = problem.help.empty() ? "" : "  " + problem.help + "\n";
     std::fputs((place + problem.what() + "\n" + help).c_str(), stderr);
-    if (json)
+    if (!json)
+        return;
+    try {
         disk::writeAll(STDOUT_FILENO, jsonOf(problem, shownFile), "standard output");
+    } catch (const std::exception &) { // often the problem itself, and told by now
+    }
 }
 
 bool doAndTell(const std::string &shownFile, const std::function<void()> &work, bool json) {

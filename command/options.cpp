@@ -222,7 +222,8 @@ std::string setLimit(std::string_view text, Limits &limits) {
     const auto limit = kLimitNames.at(*index).limit;
     const std::string_view value = equals == std::string_view::npos ? "" : text.substr(equals + 1);
     const bool isNumber = !value.empty() && isDigit(value.front()) &&
-                          value.find_first_not_of("0123456789.") == std::string_view::npos;
+                          value.find_first_not_of("0123456789.") == std::string_view::npos &&
+                          std::count(value.begin(), value.end(), '.') <= 1;
     if (isNumber)
         limits.*limit = Val(value);
     else if (limit == &Limits::upperRows && equals == std::string_view::npos)

@@ -63,6 +63,7 @@ TEST(Timecode, UnbufferedIsThatOfTheStepsOnTexts) {
 TEST(Timecode, Unbuffered) {
     EXPECT_EQ(unbufferedTimecode("01:00:00;15", "9420 9420 94ae 94ae 9470"), "01:00:00.66");
     EXPECT_EQ(unbufferedTimecode("28:00:01:01", "9420 9420 94ae 94ae 9470"), "28:00:01.16");
+    EXPECT_EQ(unbufferedTimecode("00:0::00:00", ""), "00:00:00.00");      // a colon is no digit
     EXPECT_EQ(unbufferedTimecode("00:00:01:00", "♪♪♪♪♪"), "00:00:01.03"); // characters, not bytes
     for (const char *text : {"01:00;00", "01x00:00:00", "01:00x00:00", "01:00:00x00"})
         EXPECT_THROW(unbufferedTimecode(text, ""), OutOfBoundsException) << text;

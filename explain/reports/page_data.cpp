@@ -47,7 +47,7 @@ void addRefusal(JsonWriter &json, const Problem &problem, std::string_view text)
     LineReader lines(text);
     while (!lines.atEnd() && lines.number() < problem.line + kAround) {
         const std::string_view line = lines.next();
-        if (problem.line == 0 || lines.number() + kAround < problem.line)
+        if (lines.number() + kAround < problem.line)
             continue;
         json.beginObject();
         json.member("line", lines.number());

@@ -149,6 +149,10 @@ TEST(Decoder, ShowsWhatAViewerSees) {
          "15,1 Two2 | CC1 pop-on 12@2- 15,1 Pop"},
         {"RDC 1470 Hi BS 0000 BS Yo", "CC1 paint-on 2@2-5@2 15,1 H | CC1 paint-on 6@2- 15,1 Yo"},
         {"RDC __ 1470 A 1470 _ B", "CC1 paint-on 3@2-5@2 15,1 A | CC1 paint-on 6@2- 15,2 B"},
+        {"RDC 1140 Top", "CC1 paint-on 2@2- 1,1 Top"},
+        {"RU3 One CR Two CR Three RU2 RDC 1378 X",
+         "CC1 roll-up 1@2-10@2 15,1 One | CC1 roll-up 4@2- 15,1 Two | CC1 roll-up 7@2- 15,1 Three "
+         "| CC1 paint-on 13@2- 13,17 X"},
         // A preamble moves the cursor and restyles nothing; in a row, the style to the left goes
         // on.
         {"RCL 146e Ital 1472 ic 1450 Wide 1474 _r EOC",

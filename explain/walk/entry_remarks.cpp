@@ -95,8 +95,12 @@ class Remarker {
 
     void add(Kind kind, std::uint32_t cause, std::size_t word, std::size_t count,
              std::string text) {
-        if (said_.insert(text).second && (kind != Kind::advice || wantsAdvice_))
+        if (said_.insert(text).second)
             remarks_.push_back({kind, cause, word, count, std::move(text)});
+    }
+    void advise(std::string text) {
+        if (said_.insert(text).second && wantsAdvice_)
+            remarks_.push_back({.text = std::move(text)});
     }
     const SaidLine &said() {
         if (!saidLine_)
@@ -262,10 +266,10 @@ void Remarker::remarkOnWords() {
         isBehindText = isCharacters(meaning) && !meaning.shown.ends_with(' ');
     }
     if (told.style)
-        add(Kind::advice, 0, 0, line_.words.size(),
+        advise(
             "“--” stands for a change of style, which takes a column: put a space in its place.");
     if (told.block)
-        add(Kind::advice, 1, 0, line_.words.size(),
+        advise(
             "“█” is a bar to the program, which takes bars out or makes them blanks: correct the "
             "transcript.");
 }
@@ -287,16 +291,14 @@ void Remarker::remarkOnOther(std::size_t index, Told &told) {
     } else if (isStyle && stands) {
         told.style = true;
     } else if (isCharacterCode(word) && stands && word.repeats) {
-        add(Kind::advice, word.code, index - 1, 2,
-            inQuotes(meaning.shown) + " is sent twice, as codes are, and appears twice in the "
-                                      "transcript: delete one.");
+        advise(inQuotes(meaning.shown) + " is sent twice, as codes are, and appears twice in the "
+                                         "transcript: delete one.");
     } else if (meaning.kind == CodeKind::extended && stands && fallbackOf(index) != index) {
         const std::size_t fallback = fallbackOf(index);
         const std::string plain = inQuotes(lastCharacter(line_.words[fallback].meaning->shown));
-        add(Kind::advice, word.code, fallback, index - fallback + 1,
-            inQuotes(meaning.shown) + " takes the place of the " + plain +
-                " before it, which is for old decoders; the transcript has both: delete " + plain +
-                ".");
+        advise(inQuotes(meaning.shown) + " takes the place of the " + plain +
+               " before it, which is for old decoders; the transcript has both: delete " + plain +
+               ".");
     } else if (word.repeats || fate.isBlank || (stands && isDoubled(index))) {
         return; // a blank parts as the code does, and of two that are the same one is advised on
     } else if (!isCharacters(meaning) && meaning.code != code::kBs && !stands) {

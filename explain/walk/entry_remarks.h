@@ -4,7 +4,8 @@
 
 namespace norvane {
 
-/// Something to know of an entry though the line's words are in order.
+/// Something to know of an entry though the line's words are in order. Advice has its text
+/// alone.
 struct EntryRemark {
     enum class Kind {
         altered, // the chain made something else of words

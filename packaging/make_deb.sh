@@ -18,7 +18,7 @@ field() { dpkg-parsechangelog -l "$root/debian/changelog" -S "$1"; }
 version=$(field Version)
 date=$(field Date)
 if [ "$(field Distribution)" = UNRELEASED ]; then
-    commit=$(TZ=UTC0 in_git log -1 --date=format-local:%Y%m%d%H%M%S --format='~git%cd.%h' --abbrev=7) || commit='~local'
+    commit=$(TZ=UTC0 in_git log -1 --date=format-local:%Y%m%d%H%M%S --format='~git%cd+g%h' --abbrev=7) || commit='~local'
     [ -z "$(in_git status --porcelain)" ] || commit+=+changed
     version+=$commit
     date=$(in_git log -1 --format=%cD) || true

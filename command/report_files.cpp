@@ -21,16 +21,13 @@ namespace {
 template <class Report>
 class Printer {
   public:
+    Printer() {
+        report_.setSink([](std::string_view bytes) {
+            disk::writeAll(STDOUT_FILENO, bytes, "standard output");
+        });
+    }
     Report &report() { return report_; }
-    void printMuch() {
-        constexpr std::size_t kMuch = std::size_t{1} << 16U;
-        if (report_.bytes().size() >= kMuch)
-            print();
-    }
-    void print() {
-        disk::writeAll(STDOUT_FILENO, report_.bytes(), "standard output");
-        report_.clear();
-    }
+    void print() { report_.flush(); } // what is left
 
   private:
     Report report_;
@@ -45,8 +42,7 @@ void explainWith(const Place &place, const Options &options) {
         wanted.choice.lastLine = place.lastLine;
     }
     Printer<Report> printer;
-    explainFilm(input.all(), shownName(place.path, options), wanted, printer.report(),
-                [&printer] { printer.printMuch(); });
+    explainFilm(input.all(), shownName(place.path, options), wanted, printer.report());
     printer.print();
 }
 
@@ -73,7 +69,6 @@ bool checkWith(const std::string &path, const Options &options) {
     } else {
         for (const Finding &finding : result.findings) {
             add(printer.report(), shown, finding);
-            printer.printMuch();
         }
     }
     printer.print();

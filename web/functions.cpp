@@ -129,7 +129,7 @@ EXPORTED(explain) Text *explain(const Text *name, const Text *film, Clock clock)
     return answer([&] {
         requireSccName(name->bytes, kOtherWay);
         JsonWriter json;
-        explainFilm(film->bytes, printable(name->bytes), {clock}, json, [] {});
+        explainFilm(film->bytes, printable(name->bytes), {clock}, json);
         return std::string(json.bytes());
     });
 }

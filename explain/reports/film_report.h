@@ -20,12 +20,11 @@ inline void endPart(TextReport &report) {
 }
 inline void endPart(JsonWriter & /*json*/) {}
 
-/// Adds to `report` what there is to explain of a film, any text; calls `added` behind each line,
-/// so that the report may be taken away meanwhile. `file` is what the user called the film. Throws
-/// Problem when none of its lines was chosen.
-template <class Report, class Added>
+/// Adds to `report` what there is to explain of a film, any text. `file` is what the user called
+/// the film. Throws Problem when none of its lines was chosen.
+template <class Report>
 void explainFilm(std::string_view text, std::string_view file, const ExplanationOptions &options,
-                 Report &report, Added added) {
+                 Report &report) {
     CheckRules rules;
     rules.told = Findings::Told::each;
     for (const FindingKind kind : {FindingKind::digits, FindingKind::altered,     // the line's own
@@ -58,7 +57,6 @@ void explainFilm(std::string_view text, std::string_view file, const Explanation
             continue;
         begin();
         add(report, file, explanation, captions, options.screen);
-        added();
     }
     if (isFirst && choice.text.empty() && choice.time.empty() && !choice.advised)
         throw Problem("there is no such line, or it is empty.", "",

@@ -31,35 +31,36 @@ unsigned valueOf(std::string_view character) {
 
 void JsonWriter::comma() {
     if (wantsComma_)
-        bytes_ += ',';
+        bytes_.text() += ',';
     wantsComma_ = true;
 }
 
 void JsonWriter::open(char bracket) {
     comma();
-    bytes_ += bracket;
+    bytes_.text() += bracket;
     wantsComma_ = false;
 }
 
 void JsonWriter::close(char bracket) {
-    bytes_ += bracket;
+    bytes_.text() += bracket;
     wantsComma_ = true;
+    bytes_.flushMuch();
 }
 
 void JsonWriter::name(std::string_view name) {
     comma();
-    bytes_.append("\"").append(name).append("\":");
+    bytes_.text().append("\"").append(name).append("\":");
     wantsComma_ = false;
 }
 
 void JsonWriter::addBare(std::string_view value) {
     comma();
-    bytes_ += value;
+    bytes_.text() += value;
 }
 
 void JsonWriter::add(std::string_view text) {
     comma();
-    bytes_ += '"';
+    bytes_.text() += '"';
     std::size_t done = 0;
     for (std::size_t at = 0; at < text.size();) {
         if (isPlain(text[at])) {
@@ -70,22 +71,22 @@ void JsonWriter::add(std::string_view text) {
         const bool isBroken = character.size() == 1 && text[at] < 0;
         const bool isMark = text[at] == '"' || text[at] == '\\';
         if (isBroken || isMark || isHarmful(character)) {
-            bytes_.append(text, done, at - done);
+            bytes_.text().append(text, done, at - done);
             if (isBroken)
-                bytes_ += "\uFFFD";
+                bytes_.text() += "\uFFFD";
             else if (isMark)
-                bytes_.append("\\").append(character);
+                bytes_.text().append("\\").append(character);
             else
-                appendEscape(bytes_, valueOf(character));
+                appendEscape(bytes_.text(), valueOf(character));
             done = at + character.size();
         }
         at += character.size();
     }
-    bytes_.append(text, done).append("\"");
+    bytes_.text().append(text, done).append("\"");
 }
 
 void JsonWriter::endLine() {
-    bytes_ += '\n';
+    bytes_.text() += '\n';
     wantsComma_ = false;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "explain/reports/report_bytes.h"
 #include "framework/text/text.h"
 
 #include <cstddef>
@@ -40,8 +41,11 @@ class JsonWriter {
     /// Ends a value; the next one stands in a line of its own.
     void endLine();
 
-    std::string_view bytes() const { return bytes_; }
-    void clear() { bytes_.clear(); }
+    std::string_view bytes() const { return bytes_.view(); }
+    void clear() { bytes_.text().clear(); }
+
+    void setSink(ReportBytes::Sink sink) { bytes_.setSink(std::move(sink)); }
+    void flush() { bytes_.flush(); }
 
   private:
     void open(char bracket);
@@ -49,7 +53,7 @@ class JsonWriter {
     void addBare(std::string_view value);
     void comma();
 
-    std::string bytes_;
+    ReportBytes bytes_;
     bool wantsComma_ = false;
 };
 

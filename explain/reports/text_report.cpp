@@ -5,7 +5,7 @@
 namespace norvane {
 
 TextReport &TextReport::add(std::string_view text) {
-    appendPrintable(bytes_, text);
+    appendPrintable(bytes_.text(), text);
     return *this;
 }
 

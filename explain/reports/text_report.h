@@ -1,5 +1,7 @@
 #pragma once
 
+#include "explain/reports/report_bytes.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -16,17 +18,23 @@ class TextReport {
 
     /// Blanks up to `width`, for what was added with `characters` characters.
     TextReport &pad(std::size_t width, std::size_t characters) {
-        bytes_.append(width > characters ? width - characters : 0, ' ');
+        bytes_.text().append(width > characters ? width - characters : 0, ' ');
         return *this;
     }
-    void endColumn() { bytes_ += '\t'; }
-    void endLine() { bytes_ += '\n'; }
+    void endColumn() { bytes_.text() += '\t'; }
+    void endLine() {
+        bytes_.text() += '\n';
+        bytes_.flushMuch();
+    }
 
-    std::string_view bytes() const { return bytes_; }
-    void clear() { bytes_.clear(); }
+    std::string_view bytes() const { return bytes_.view(); }
+    void clear() { bytes_.text().clear(); }
+
+    void setSink(ReportBytes::Sink sink) { bytes_.setSink(std::move(sink)); }
+    void flush() { bytes_.flush(); }
 
   private:
-    std::string bytes_;
+    ReportBytes bytes_;
 };
 
 } // namespace norvane

@@ -20,6 +20,9 @@ int allocationsLeft = -1; // until one fails; none does while it is negative
         throw std::bad_alloc();
     return memory;
 }
+[[gnu::noinline]] void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
+    return std::malloc(size); // what has a way without it, as std::stable_sort has
+}
 [[gnu::noinline]] void operator delete(void *memory) noexcept {
     std::free(memory);
 }

@@ -167,7 +167,8 @@ constexpr std::array<std::uint16_t, 256> kMarkedBytes = [] {
 }();
 
 constexpr std::size_t numberOf(const char *digits) { // one load of two bytes
-    return static_cast<unsigned char>(digits[0]) | static_cast<unsigned char>(digits[1]) << 8U;
+    return std::size_t{static_cast<unsigned char>(digits[0])} |
+           std::size_t{static_cast<unsigned char>(digits[1])} << 8U;
 }
 
 /// The marked byte of two hex digits, by their number; 0 for other characters. Few pages of it are

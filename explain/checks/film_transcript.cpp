@@ -28,10 +28,11 @@ void FilmTranscript::add(std::string_view line, std::size_t number) {
 }
 
 void requireSccName(std::string_view name, std::string_view otherWay) {
-    if (!isSccName(name))
+    if (!isSccName(name)) {
         throw Problem{std::string(kNotSccMessage),
                       "If it is an SCC file, rename it to end in .scc, or " +
                           std::string(otherWay) + "."};
+    }
 }
 
 } // namespace norvane

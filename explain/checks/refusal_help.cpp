@@ -38,13 +38,14 @@ std::string foreignFormat(std::string_view text) {
 
 std::string refusalHelp(std::string_view line) {
     constexpr std::size_t kTimecodeSize = 11;
-    if (holdsOnly(line, kNul))
+    if (holdsOnly(line, kNul)) {
         return "The line holds nothing but NULs, which is what a failed copy leaves: ask for the "
-               "file "
-               "again.";
-    if (holdsOnly(line, " \t"))
+               "file again.";
+    }
+    if (holdsOnly(line, " \t")) {
         return "The line has nothing but spaces, and only lines without any character are "
                "skipped: delete it.";
+    }
     for (const std::string_view comment : {"//", "/*", "#", ";", "--", "NOTE"}) {
         if (line.starts_with(comment))
             return "The line looks like a comment, but SCC files cannot have comments: delete it.";

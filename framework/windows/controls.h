@@ -32,6 +32,8 @@ template <class... Functions>
 struct Visitor : Functions... {
     using Functions::operator()...;
 };
+template <class... Functions>
+Visitor(Functions...) -> Visitor<Functions...>; // clang 14 does not find it by itself
 
 class Control {
   public:

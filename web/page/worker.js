@@ -51,7 +51,7 @@ function filmText({id, file}) {
     if (held.id === id) return held.text;
     release(held.text);
     held = {id: 0, text: 0};
-    const text = had(core.newText(file.size));
+    const text = had(file.size < 2 ** 32 ? core.newText(file.size) : 0);
     try {
         const reader = new FileReaderSync();
         for (let at = 0; at < file.size; at += kBlock) {

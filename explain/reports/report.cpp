@@ -215,11 +215,12 @@ void add(TextReport &report, std::string_view file, const Finding &finding) {
     report.add(infoOf(finding.kind).name).add(": ").add(finding.text);
     if (finding.count > 1) {
         report.add(" And ").add(finding.count - 1).add(" more");
-        for (std::size_t i = 1; i < finding.lines.size(); ++i)
+        for (std::size_t i = 1; i < finding.lines.size(); ++i) {
             report.add(i > 1                ? ", "
                        : finding.count == 2 ? ", line "
                                             : ", lines ")
                 .add(finding.lines[i]);
+        }
         report.add(finding.lines.size() < finding.count ? " ...; --each lists them." : ".");
     }
     report.endLine();

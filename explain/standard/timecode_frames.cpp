@@ -23,7 +23,7 @@ long FrameTimecode::count() const {
     const long allMinutes = hours * 60L + minutes;
     const long dropped =
         dropFrame ? kDroppedPerMinute * (allMinutes - allMinutes / kMinutesPerDrop) : 0;
-    return allMinutes * kFramesPerMinute + seconds * kFramesPerSecond + frames - dropped;
+    return allMinutes * kFramesPerMinute + long{seconds} * kFramesPerSecond + frames - dropped;
 }
 
 bool FrameTimecode::exists() const {

@@ -265,13 +265,15 @@ void Remarker::remarkOnWords() {
         isGlue = false;
         isBehindText = isCharacters(meaning) && !meaning.shown.ends_with(' ');
     }
-    if (told.style)
+    if (told.style) {
         advise(
             "“--” stands for a change of style, which takes a column: put a space in its place.");
-    if (told.block)
+    }
+    if (told.block) {
         advise(
             "“█” is a bar to the program, which takes bars out or makes them blanks: correct the "
             "transcript.");
+    }
 }
 
 /// A word that has in the transcript something else than on the screen.
@@ -348,11 +350,12 @@ void Remarker::remarkOnTheRest() {
         return;
     const std::string seen = folded(said().text());
     const std::string written = folded(*walk_.entry());
-    if (ReplaceAll(seen, " ", "") != ReplaceAll(written, " ", ""))
+    if (ReplaceAll(seen, " ", "") != ReplaceAll(written, " ", "")) {
         add(Kind::altered, kDifferenceCause, 0, line_.words.size(),
             "The viewer reads " + (seen.empty() ? "nothing" : startInQuotes(seen)) +
                 ", the transcript has " + startInQuotes(written) +
                 ". The file is correct: edit the transcript.");
+    }
 }
 
 /// What the viewer reads and what the transcript says, where no row of its own explains it.

@@ -4,7 +4,7 @@ build_packages='g++ cmake ninja-build'
 desktop_packages='qt6-base-dev qt6-base-dev-tools libgl-dev'
 page_packages='emscripten cmake ninja-build python3'
 test_packages='libgtest-dev libbenchmark-dev python3'
-deb_packages="$build_packages $desktop_packages debhelper dpkg-dev"
+deb_packages="build-essential $build_packages $desktop_packages debhelper dpkg-dev"
 deb_check_packages='lintian desktop-file-utils appstream man-db shared-mime-info libglib2.0-bin fish zsh'
 check_packages='git clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool imagemagick fonts-dejavu-core python3 dbus at-spi2-core chromium chromium-driver python3-selenium'
 

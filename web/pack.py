@@ -26,7 +26,7 @@ script = script.replace("'@worker@'", json.dumps(worker))
 style = read(viewer / 'viewer.css', parts / 'program.css')
 for text in script, style:
     assert '</' + 'script' not in text and '<!--' not in text and '</' + 'style' not in text
-result = read(parts / 'program.html')
+result = read(parts / 'program.html').replace('@licence@', read(sources / 'LICENSE'))
 for name, value in ('style-hash', hash_of(style)), ('script-hash', hash_of(script)), ('style', style), ('script', script):
     result = result.replace(f'@{name}@', value, 1)
 page.write_text(result, encoding='utf-8')

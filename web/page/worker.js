@@ -9,10 +9,8 @@ const kNoSuchCall = 52; // ENOSYS of WASI
 const core = new WebAssembly.Instance(new WebAssembly.Module(Uint8Array.from(atob('@module@'), (letter) => letter.charCodeAt(0))), {
     page: {progress: (progress) => postMessage({progress})},
     env: {emscripten_notify_memory_growth() {}},
-    wasi_snapshot_preview1: {
-        environ_sizes_get: () => kNoSuchCall, environ_get: () => kNoSuchCall, fd_close: () => kNoSuchCall, fd_seek: () => kNoSuchCall, fd_write: () => kNoSuchCall,
-        proc_exit(status) { throw new Error(`ended with ${status}`); },
-    },
+    wasi_snapshot_preview1: new Proxy({proc_exit(status) { throw new Error(`ended with ${status}`); }},
+        {get: (calls, name) => calls[name] ?? (() => kNoSuchCall)}), // which of them the library asks for depends on its version
 }).exports;
 core._initialize();
 

@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # make_deb.sh [FOLDER]: makes the Debian package and its source package from a copy of the sources, in FOLDER or
 # in build/. Installs what that needs where it is missing (Debian). The package is tested by ./test.
+# DEB_BUILD_PROFILES=pkg.norvane.nopage leaves norvane.html out, and emscripten with it.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 . "$root/scripts/common.sh"
 need $deb_packages
+[[ " ${DEB_BUILD_PROFILES:-} " = *" pkg.norvane.nopage "* ]] || need $page_packages
 mkdir -p "${1:-$root/build}"
 out=$(cd "${1:-$root/build}" && pwd)
 work=$(mktemp -d)
@@ -36,7 +38,7 @@ sed -i "1s/(.*) UNRELEASED/($version) unstable/; 0,/^ -- /s/^\( -- .*>  \).*/\1$
 
 tar -C "$work" --exclude=debian --sort=name --mtime="${date:-$(field Date)}" --owner=0 --group=0 --numeric-owner \
     --mode=u=rwX,go=rX -c "norvane-$upstream" | gzip -9n >"$work/norvane_$upstream.orig.tar.gz"
-(cd "$sources" && LC_ALL=C.UTF-8 DEB_BUILD_OPTIONS="nocheck ${DEB_BUILD_OPTIONS:-}" DEB_BUILD_PROFILES=nocheck \
+(cd "$sources" && LC_ALL=C.UTF-8 DEB_BUILD_OPTIONS="nocheck ${DEB_BUILD_OPTIONS:-}" DEB_BUILD_PROFILES="nocheck ${DEB_BUILD_PROFILES:-}" \
     quietly dpkg-buildpackage --no-sign --jobs=auto)
 rm -r "$sources"
 [ $# -gt 0 ] || rm -f "$out"/norvane{,-dbgsym}_* # so that there is one to install

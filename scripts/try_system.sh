@@ -56,7 +56,7 @@ step 'package' inside "$roots/build" 'cd /norvane && packaging/make_deb.sh /deb'
 cp "$roots"/build/deb/norvane_*.deb "$roots/installed/norvane.deb"
 cp "$root/resources/samples/night-train.scc" "$roots/installed/"
 step 'installation' inside "$roots/installed" 'apt-get update; apt-get install -y --no-install-recommends /norvane.deb
-    [ -s /usr/share/norvane/help.html ]
+    [ -s /usr/share/norvane/help.html ] && [ -s /usr/share/norvane/norvane.html ]
     [ -n "$(norvane-transcript /night-train.scc)" ]
     status=0
     QT_QPA_PLATFORM=offscreen timeout 5 norvane || status=$?

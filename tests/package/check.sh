@@ -3,7 +3,7 @@
 set -euo pipefail # so no grep -q behind a pipe: it would end what it reads from
 root=$(cd "$(dirname "$0")/../.." && pwd)
 . "$root/scripts/common.sh"
-need $deb_packages $deb_check_packages
+need $deb_packages $page_packages $deb_check_packages
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -38,7 +38,7 @@ sizes=(16 22 24 32 48 64 128 256 512)
 expected() {
     printf '%s\n' bin/norvane bin/norvane-transcript share/applications/norvane{,-page}.desktop \
         share/metainfo/com.bellwick.norvane.metainfo.xml share/mime/packages/norvane.xml \
-        share/norvane/{help.html,page.png} share/man/man1/{norvane,norvane-transcript}.1.gz \
+        share/norvane/{help.html,norvane.html,page.png} share/man/man1/{norvane,norvane-transcript}.1.gz \
         share/doc/norvane/{copyright,changelog.gz,changelog.Debian.gz} share/lintian/overrides/norvane \
         share/bash-completion/completions/norvane-transcript \
         share/fish/vendor_completions.d/norvane-transcript.fish \
@@ -46,6 +46,10 @@ expected() {
     printf 'share/icons/hicolor/%s/apps/norvane.png\n' "${sizes[@]/%/x}" | sed -E 's/([0-9]+)x/\1x\1/'
 }
 diff <(expected | sort) <(cd "$usr" && find . -type f -printf '%P\n' | sort) || fail 'the list of files'
+
+for link in $(grep -oP '(href|src)="\K[^"#]+' "$usr/share/norvane/help.html"); do
+    [ -s "$usr/share/norvane/$link" ] || fail "$link, which the help article names"
+done
 
 # Desktops know a file by its name in either case, and without one by its first words.
 quietly update-mime-database "$usr/share/mime"
@@ -69,14 +73,14 @@ completed_by_fish() {
 }
 zsh -n "$usr/share/zsh/vendor-completions/_norvane-transcript"
 "$transcript" --version | grep . >/dev/null || fail 'the companion'
-options=$("$transcript" --help | grep -oE '^  --[a-z-]+')
+options=$("$transcript" --help | grep -oE '^  -[-a-z]+')
 [ -n "$options" ] || fail 'no options'
 for option in $options; do
     man -l "$usr/share/man/man1/norvane-transcript.1.gz" 2>/dev/null | col -b | grep -E -- "^ +$option" >/dev/null ||
         fail "the page lacks $option"
-    completed_by_bash -- | grep -xe "$option" >/dev/null || fail "bash lacks $option"
-    completed_by_fish -- | grep -xe "$option" >/dev/null || fail "fish lacks $option"
-    grep -qe "$option[=[]" "$usr/share/zsh/vendor-completions/_norvane-transcript" || fail "zsh lacks $option"
+    completed_by_bash - | grep -xe "$option" >/dev/null || fail "bash lacks $option"
+    completed_by_fish - | grep -xe "$option" >/dev/null || fail "fish lacks $option"
+    grep -qe "$option[=+[]" "$usr/share/zsh/vendor-completions/_norvane-transcript" || fail "zsh lacks $option"
 done
 [ "$(completed_by_bash --form = p)" = paragraph ] || fail 'bash on --form=p'
 [ "$(completed_by_fish '--clock s')" = scc ] || fail 'fish on --clock s'

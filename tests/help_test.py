@@ -71,6 +71,10 @@ for kind, text in re.findall(r"<samp(.*?)>(.*?)</samp>", re.sub(examples, "", pa
     known = literals if kind == ' class="message"' else told
     assert any(html.unescape(text) in each for each in known), f"no example shows it, or no code says it: {text}"
 
+assert '<a href="norvane.html">Look into a film</a>' in page
+for place in re.findall(r'href="#(.*?)"', page):
+    assert f'id="{place}"' in page, place
+
 for form in ("timecode", "line", "paragraph"):
     assert f"```\n{run(f'norvane-transcript --form {form} night-train.scc')}\n" in readme, form
 commands = re.findall(r"```\n\$ (.*?)\n(.*?)```", readme, re.S)

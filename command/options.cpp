@@ -65,7 +65,8 @@ constexpr const char *kUsageBehindKinds =
     "for wrong usage and when --check or --explain could not read a file.\n";
 
 /// Beyond the characters, so that getopt_long tells these from one-letter options.
-enum Found {
+namespace Found {
+enum Option {
     form = 256,
     clock,
     noHeading,
@@ -87,29 +88,30 @@ enum Found {
     open,
     version
 };
+}
 
 constexpr auto kOptions = std::to_array<option>({
-    {"form", required_argument, nullptr, form},
-    {"clock", required_argument, nullptr, clock},
-    {"no-heading", no_argument, nullptr, noHeading},
-    {"output-dir", required_argument, nullptr, outputFolder},
-    {"force", no_argument, nullptr, force},
-    {"stdin-name", required_argument, nullptr, stdinName},
-    {"explain", no_argument, nullptr, explain},
-    {"find", required_argument, nullptr, find},
-    {"at", required_argument, nullptr, at},
-    {"advised", no_argument, nullptr, advised},
-    {"screen", no_argument, nullptr, screen},
-    {"check", no_argument, nullptr, check},
-    {"each", no_argument, nullptr, each},
-    {"summary", no_argument, nullptr, summary},
-    {"limit", required_argument, nullptr, limit},
-    {"without", required_argument, nullptr, without},
-    {"json", no_argument, nullptr, json},
-    {"page", no_argument, nullptr, page},
-    {"open", no_argument, nullptr, open},
+    {"form", required_argument, nullptr, Found::form},
+    {"clock", required_argument, nullptr, Found::clock},
+    {"no-heading", no_argument, nullptr, Found::noHeading},
+    {"output-dir", required_argument, nullptr, Found::outputFolder},
+    {"force", no_argument, nullptr, Found::force},
+    {"stdin-name", required_argument, nullptr, Found::stdinName},
+    {"explain", no_argument, nullptr, Found::explain},
+    {"find", required_argument, nullptr, Found::find},
+    {"at", required_argument, nullptr, Found::at},
+    {"advised", no_argument, nullptr, Found::advised},
+    {"screen", no_argument, nullptr, Found::screen},
+    {"check", no_argument, nullptr, Found::check},
+    {"each", no_argument, nullptr, Found::each},
+    {"summary", no_argument, nullptr, Found::summary},
+    {"limit", required_argument, nullptr, Found::limit},
+    {"without", required_argument, nullptr, Found::without},
+    {"json", no_argument, nullptr, Found::json},
+    {"page", no_argument, nullptr, Found::page},
+    {"open", no_argument, nullptr, Found::open},
     {"help", no_argument, nullptr, 'h'},
-    {"version", no_argument, nullptr, version},
+    {"version", no_argument, nullptr, Found::version},
     {nullptr, 0, nullptr, 0}, // the end, as getopt_long wants it
 });
 

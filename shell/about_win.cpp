@@ -7,16 +7,16 @@
 namespace norvane {
 
 namespace {
-std::unique_ptr<aboutWin> instance;
+std::unique_ptr<aboutWin> shownAbout;
 } // namespace
 
 aboutWin &aboutWin::the() {
-    if (!instance) {
-        instance = std::make_unique<aboutWin>();
-        instance->closed = [] { instance.reset(); };
-        instance->open();
+    if (!shownAbout) {
+        shownAbout = std::make_unique<aboutWin>();
+        shownAbout->closed = [] { shownAbout.reset(); };
+        shownAbout->open();
     }
-    return *instance;
+    return *shownAbout;
 }
 
 aboutWin::aboutWin() {

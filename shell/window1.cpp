@@ -7,16 +7,16 @@
 namespace norvane {
 
 namespace {
-std::unique_ptr<Window1> instance;
+std::unique_ptr<Window1> shownWindow;
 } // namespace
 
 Window1 &Window1::the() {
-    if (!instance) {
-        instance = std::make_unique<Window1>();
-        instance->closed = [] { instance.reset(); };
-        instance->open();
+    if (!shownWindow) {
+        shownWindow = std::make_unique<Window1>();
+        shownWindow->closed = [] { shownWindow.reset(); };
+        shownWindow->open();
     }
-    return *instance;
+    return *shownWindow;
 }
 
 Window1::Window1() {

@@ -23,7 +23,7 @@ std::string caption(std::string_view hexText) {
     return text;
 }
 
-struct Row {
+struct HexRow {
     std::string hexText;
     std::string result;
 };
@@ -32,7 +32,7 @@ TEST(Captions, OfKnownHexTexts) {
     // Codes without a row; the fallback of the deleted quote; nothing left; rows that match across
     // characters; characters whose blank is deleted; any text.
     // clang-format off
-    const Row rows[] = {
+    const HexRow rows[] = {
         {"9420 9420 94ae 94ae 9470 9470 c8e9 a180 942f 942f", "  Hi!  "},
         {"9420 9420 94ae 94ae 9470 9470 c845 4c4c 4f20 574f 524c c480 942c 942c 942f 942f", "  HELLO WORLD  "},
         {"9470 c1e5 9120 574f", " Ae--WO"}, {"9470 5454 9429 9429 c1c2", " TT94)94)AB"},
@@ -42,7 +42,7 @@ TEST(Captions, OfKnownHexTexts) {
         {"9470 b9b9 2520", " 9b 0"}, {"1329 c8e9 ef20", "{c8e9er"}, {"13b9 13b9 ad80", "åå-"},
         {"c8e9a", "Hi"}, {"9470c1c2", " AB"}, {"xyz", "xy"}};
     // clang-format on
-    for (const Row &row : rows) {
+    for (const HexRow &row : rows) {
         EXPECT_EQ(caption(row.hexText), row.result) << row.hexText;
     }
 }
@@ -111,12 +111,12 @@ TEST(Captions, OfWordsAreThoseOfTheRowsBehindEachBeginningOfAKey) {
 }
 
 TEST(Letters, OfPiecesAndOfLongerText) {
-    const Row rows[] = {{"c1", "A"},    {"C1", "A"},     {"28", "("},   {"a8", "("},
-                        {"23", "23"},   {"a3", "#"},     {"7f", "|"},   {"2a", "á"},
-                        {"**", "**"},   {"♪ ", "♪ "},    {"20", " "},   {"80", "80"},
-                        {"94", "94"},   {"", ""},        {"c1c2", "+"}, // "AB" is a key
-                        {"dcfe", "éñ"}, {"a7a2", "az2"}, {"|", "|"},    {"2c2", "2B"}};
-    for (const Row &row : rows)
+    const HexRow rows[] = {{"c1", "A"},    {"C1", "A"},     {"28", "("},   {"a8", "("},
+                           {"23", "23"},   {"a3", "#"},     {"7f", "|"},   {"2a", "á"},
+                           {"**", "**"},   {"♪ ", "♪ "},    {"20", " "},   {"80", "80"},
+                           {"94", "94"},   {"", ""},        {"c1c2", "+"}, // "AB" is a key
+                           {"dcfe", "éñ"}, {"a7a2", "az2"}, {"|", "|"},    {"2c2", "2B"}};
+    for (const HexRow &row : rows)
         EXPECT_EQ(convertSCC2Letters(row.hexText), row.result) << row.hexText;
     // A byte's letter is what the rows make of its two digits.
     int known = 0;

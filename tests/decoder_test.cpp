@@ -72,12 +72,11 @@ std::string captionsIn(const std::string &words) {
     return text;
 }
 
-struct Row {
-    std::string words;
-    std::string captions;
-};
-
 TEST(Decoder, ShowsWhatAViewerSees) {
+    struct Row {
+        std::string words;
+        std::string captions;
+    };
     const Row rows[] = {
         // Before the first code that selects a mode, nothing is taken.
         {"1470 Hi EDM EOC", ""},

@@ -103,10 +103,11 @@ TEST_F(Files, WhatCameSinceTheLookStays) {
     disk::SystemCalls calls[5];
     for (const int row : {1, 2, 3})
         calls[row].linkat = {[](int, auto, int, auto, int) { return errno = EPERM, -1; }};
-    for (const int row : {2, 3, 4})
+    for (const int row : {2, 3, 4}) {
         calls[row].faccessat = {[](int in, auto name, int how, int flags) {
             return how == X_OK ? -1 : faccessat(in, name, how, flags);
         }};
+    }
     for (const int row : {3, 4})
         calls[row].renameToNew = {[](int, auto, int, auto) { return errno = EINVAL, -1; }};
     std::string name = "a";

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::int64_t kMinute = 60000;
 constexpr std::int64_t kInterval = 15 * kMinute;
-constexpr const char *kNoTimecode = "There does not appear to be any timecode in this file.";
 constexpr const char *kNoWatchFolder =
     "Could not locate the Watch folder. Please use the Browse button and reselect it.";
 constexpr const char *kBothFolders =

@@ -4,7 +4,6 @@ namespace norvane {
 namespace {
 
 constexpr const char *kHi = "9420 9420 94ae 94ae 9470 9470 c8e9 a180 942f 942f";
-constexpr const char *kNoTimecode = "There does not appear to be any timecode in this file.";
 constexpr const char *kNoTab = "This SCC file does not appear to be formatted correctly. It needs "
                                "to have a tab between the timecode "
                                "and the hexidecimal caption code.";

@@ -13,6 +13,9 @@ namespace norvane {
 
 using Lines = std::vector<std::string>;
 
+/// What a decode says of a file without a timecode.
+constexpr const char *kNoTimecode = "There does not appear to be any timecode in this file.";
+
 /// A folder of its own for a test, gone with it; in the folder `where`, or the system's for such.
 class TemporaryFolder {
   public:

@@ -27,6 +27,20 @@ Promise.all(films.map((film) => ask(task, film).then(async (bytes) =>
     ({problem: {text, help, line}}) => `${film.name}:${line ? line + ':' : ''} ${text}\\n${help ? `  ${help}\\n` : ''}`))).then(done);
 '''
 
+# What a script of a hostile film would try, and the rules that forbade it.
+FORBIDDEN = '''
+const [address, done] = arguments;
+const rules = new Set();
+document.addEventListener('securitypolicyviolation', (event) => rules.add(event.effectiveDirective));
+fetch(address).catch(() => {});
+new Image().src = address;
+for (const [tag, property] of [['script', 'src'], ['script', 'textContent'], ['style', 'textContent'], ['iframe', 'src'], ['base', 'href']])
+    document.body.append(Object.assign(document.createElement(tag), {[property]: address}));
+new Worker('data:,').onerror = () => {};
+setTimeout(() => setTimeout('1'));
+setTimeout(() => done([...rules].sort()), 500);
+'''
+
 
 def companion(*arguments):
     return subprocess.run([build / 'command/norvane-transcript', *arguments], cwd=work, capture_output=True, timeout=120)
@@ -126,14 +140,24 @@ def transcripts_go_into_a_folder():
 
 
 def work_can_be_stopped():
-    with open(work / 'long.scc', 'wb') as film:
-        subprocess.run([build / 'bench/make_scc', 'film', '20000000'], stdout=film, check=True)
-    take(work / 'long.scc', work / 'show.scc')
-    wait(lambda: driver.find_element(By.ID, 'progress').get_attribute('value'), 'progress')
+    for name, size in ('endless.scc', '100000000'), ('long.scc', '20000000'):
+        with open(work / name, 'wb') as film:
+            subprocess.run([build / 'bench/make_scc', 'film', size], stdout=film, check=True)
+    take(work / 'endless.scc', work / 'long.scc')
+    wait(lambda: driver.find_element(By.ID, 'progress').get_attribute('value') and driver.find_element(By.ID, 'stop').is_displayed(), 'progress')
     click('stop')
     same('stopped', states()[-2:], ['stopped', 'stopped'])
-    driver.find_elements(By.CSS_SELECTOR, '#rows th button')[-1].click()
-    wait(lambda: states()[-1] == 'ready', 'a film behind the stop')
+    press(']')
+    wait(lambda: states()[-1].startswith('too large to be looked into'), 'a film behind the stop')
+    driver.find_element(By.CSS_SELECTOR, '#rows .off button').click()
+    same('20 MB', driver.execute_async_script(ANSWERS, 'transcript', 0, 0)[0], hashlib.sha256(companion('long.scc').stdout).hexdigest())
+
+
+def nothing_else_is_allowed():
+    same('forbidden', driver.execute_async_script(FORBIDDEN, served),
+         ['base-uri', 'connect-src', 'frame-src', 'img-src', 'script-src', 'script-src-elem', 'style-src-elem', 'worker-src'])
+    console(driver), requests(driver)  # which told of the attempts
+    driver.get(page.as_uri())
 
 
 def answers_are_the_companions():
@@ -166,7 +190,7 @@ threading.Thread(target=server.serve_forever, daemon=True).start()
 served = f'http://localhost:{server.server_port}/{page.name}'
 with chromium(downloads=work / 'downloads') as driver:
     for scenario, address in ((films_come_in_by_every_way, page.as_uri()), (transcripts_go_out, page.as_uri()), (transcripts_go_into_a_folder, served),
-                              (work_can_be_stopped, page.as_uri()), (answers_are_the_companions, page.as_uri())):
+                              (work_can_be_stopped, page.as_uri()), (nothing_else_is_allowed, page.as_uri()), (answers_are_the_companions, page.as_uri())):
         driver.get(address)
         scenario()
         same('console', console(driver), [])

@@ -24,7 +24,7 @@ function addFilms(files) {
         setState(film, 'waiting');
     }
     if (added.length === 0) return;
-    part('list').hidden = false;
+    showList();
     say(`${counted(added.length, 'film')} added.`);
     if (!chosen || added.length === 1) choose(added[0]);
     for (const film of added) if (film !== chosen) attempt(film, () => look(film));
@@ -63,6 +63,11 @@ async function look(film) {
     return data;
 }
 
+function showList() {
+    part('list').hidden = films.length === 0;
+    document.body.classList.toggle('empty', films.length === 0);
+}
+
 function makeRow(film) {
     const name = make('button', {type: 'button'}, film.name);
     name.addEventListener('click', () => choose(film));
@@ -86,7 +91,7 @@ function takeOff(film) {
     films.splice(at, 1);
     film.row.remove();
     dropJobs((job) => job.film.id === film.id);
-    part('list').hidden = films.length === 0;
+    showList();
     const next = films[Math.min(at, films.length - 1)];
     if (film === chosen) choose(next || null);
     (next?.parts.name || part('choose-files')).focus();
@@ -96,6 +101,7 @@ function takeOff(film) {
 
 function choose(film) {
     chosen?.parts.name.removeAttribute('aria-current');
+    chosen?.row.classList.remove('chosen');
     chosen = film;
     shown = null;
     if (film) film.refused = false;
@@ -104,6 +110,7 @@ function choose(film) {
     part('transcript').hidden = true;
     if (!film) return;
     film.parts.name.setAttribute('aria-current', 'true');
+    film.row.classList.add('chosen');
     part('view').replaceChildren();
     if (location.hash) location.hash = ''; // which names a line of another film
     showTranscript();

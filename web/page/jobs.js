@@ -90,11 +90,23 @@ function stopWork() {
     say('Stopped.');
 }
 
+const kShownEvery = 150; // milliseconds: what is done sooner is not shown, and drawing the page takes longer than a small film
+
+let showing = 0; // a timer
+let done = null; // how much of the first job, from 0 to 1
+
 function showWork(progress = null) {
+    done = progress;
+    if (jobs.length === 0) part('work').hidden = true;
+    else showing ||= setTimeout(drawWork, kShownEvery);
+}
+
+function drawWork() {
+    showing = 0;
     part('work').hidden = jobs.length === 0;
     if (jobs.length === 0) return;
     const others = new Set(jobs.map((job) => job.film.id)).size - 1;
     part('doing').textContent = jobs[0].film.name + (others ? ` and ${counted(others, 'more film')}` : '');
-    if (progress === null) part('progress').removeAttribute('value');
-    else part('progress').value = progress;
+    if (done === null) part('progress').removeAttribute('value');
+    else part('progress').value = done;
 }

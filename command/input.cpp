@@ -116,7 +116,7 @@ bool doAndTell(const std::string &shownFile, const std::function<void()> &work, 
     } catch (const Problem &problem) {
         tell(shownFile, problem, json);
     } catch (const std::bad_alloc &) {
-        tell(shownFile, Problem("there is not enough memory."), json);
+        tell(shownFile, Problem("not enough memory."), json);
     } catch (const std::exception &failure) {
         tell(shownFile, Problem(failure.what()), json);
     }

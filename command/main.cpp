@@ -40,7 +40,7 @@ void makeOutputFolder(const std::string &path) {
     const std::string folder = absolutePath(path);
     disk::makeFolders(folder);
     if (disk::kindOf(folder, disk::Kind::other) != disk::Kind::folder)
-        throw Problem("is not a folder and cannot be made one.");
+        throw Problem("is not a folder.");
 }
 
 int run(const Options &options) {

@@ -19,50 +19,49 @@ constexpr const char *kUsage =
     "                          [--limit NAME=VALUE]... [@RULES] FILE...\n"
     "       norvane-transcript --page [--open] FILE...\n"
     "Turns Scenarist Closed Caption files (.scc) into readable transcripts, explains what became\n"
-    "of each word of a file, checks files, or shows them as pages. A FILE named - is standard\n"
-    "input, and so is none when something is piped in.\n"
+    "of each word of a file, checks files, or shows them as pages. FILE - is standard input,\n"
+    "which is also read if no FILE is given and input is piped in.\n"
     "\n"
-    "  --form timecode|line|paragraph  how captions are laid out (timecode)\n"
-    "  --clock unbuffered|scc          start times corrected for the buffer, or as the\n"
-    "                                  file has them (unbuffered)\n"
-    "  --no-heading                    leave out the heading, which names the file\n"
-    "  -o FILE                         write FILE, not standard output\n"
-    "  --output-dir DIR                write DIR/NAME.txt for each file, not standard output;\n"
-    "                                  NAME is the file's name up to its first point\n"
-    "  --force                         replace transcripts that exist already\n"
-    "  --stdin-name NAME               what to call standard input (stdin)\n"
-    "  --explain                       for each data line, or for some: what a viewer sees of\n"
-    "                                  it and when, its words, what they mean, what became of\n"
-    "                                  them, what to do\n"
+    "  --form timecode|line|paragraph  layout of the transcript (timecode)\n"
+    "  --clock unbuffered|scc          start times corrected for the buffer, or as in the\n"
+    "                                  file (unbuffered)\n"
+    "  --no-heading                    omit the heading, which names the file\n"
+    "  -o FILE                         write to FILE, not to standard output\n"
+    "  --output-dir DIR                write DIR/NAME.txt for each file; NAME is the name of\n"
+    "                                  the file up to its first period\n"
+    "  --force                         replace existing transcripts and pages\n"
+    "  --stdin-name NAME               name for standard input (stdin)\n"
+    "  --explain                       explain data lines: what a viewer sees and when, each\n"
+    "                                  word, what it means, what became of it, what to do\n"
     "  --find TEXT                     only lines with TEXT in the transcript or on the screen\n"
-    "  --at TIME                       only lines that are sent or seen then, 00:01:02:03 as the\n"
-    "                                  file has it or 00:01:02.10 as the transcript does\n"
+    "  --at TIME                       only lines sent or seen at TIME, written 00:01:02:03 as\n"
+    "                                  in the file or 00:01:02.10 as in the transcript\n"
     "  --advised                       only lines with something to correct\n"
-    "  --screen                        show the rows as they stand on the screen\n"
+    "  --screen                        show rows as they appear on the screen\n"
     "  --check                         print what is wrong with each file: FILE:LINE: KIND: text;\n"
-    "                                  what has the same cause is told once\n"
-    "  --each                          tell each finding\n"
-    "  --summary                       print a line for each file instead, with tabs: captions,\n"
+    "                                  findings with the same cause are reported once\n"
+    "  --each                          report every finding\n"
+    "  --summary                       print one line per file instead, with tabs: captions,\n"
     "                                  times, findings, fastest reading, longest row, most rows\n"
-    "  --limit NAME=VALUE              ask for more than the standard does; the names are\n"
-    "                                  reading-rate (characters a second, at most), shortest,\n"
-    "                                  longest (frames on the screen), gap (frames between\n"
-    "                                  two captions), row-length, rows (at most), upper-rows\n"
-    "                                  (how many of rows 5 to 11 may be used; 0)\n"
-    "  @RULES                          take the options in the file RULES, one a line\n"
-    "  --without KIND,...              leave out kinds of findings; the kinds are\n";
+    "  --limit NAME=VALUE              require more than the standard does; the names are\n"
+    "                                  reading-rate (maximum characters per second), shortest,\n"
+    "                                  longest (frames on the screen), gap (minimum frames\n"
+    "                                  between captions), row-length, rows (maximums),\n"
+    "                                  upper-rows (how many of rows 5 to 11 may be used; 0)\n"
+    "  @RULES                          read options from the file RULES, one per line\n"
+    "  --without KIND,...              omit kinds of findings; the kinds are\n";
 
-constexpr const char *kUsageBehindKinds =
-    "  --json                          print one JSON object a line\n"
-    "  --page                          print a page for a browser: the film's captions with all\n"
-    "                                  that --explain and --check know; with --output-dir,\n"
-    "                                  write DIR/NAME.html for each file and DIR/index.html\n"
-    "  --open                          open the page at once\n"
-    "  --help, -h                      print this and exit\n"
+constexpr const char *kUsageAfterKinds =
+    "  --json                          print one JSON object per line\n"
+    "  --page                          print a page for a browser: the captions with all that\n"
+    "                                  --explain and --check report; with --output-dir, write\n"
+    "                                  DIR/NAME.html for each file and DIR/index.html\n"
+    "  --open                          open the page\n"
+    "  --help, -h                      print this help and exit\n"
     "  --version                       print the version and exit\n"
     "\n"
-    "Exit status: 0 when all went well, 1 when a transcript failed or a check found something, 2\n"
-    "for wrong usage and when --check or --explain could not read a file.\n";
+    "Exit status: 0 for success, 1 if a transcript failed or a check found something, 2 for wrong\n"
+    "usage or if --check or --explain could not read a file.\n";
 
 /// Beyond the characters, so that getopt_long tells these from one-letter options.
 namespace Found {
@@ -176,7 +175,7 @@ std::string unknownOption(std::string_view argument) {
         candidates += (count++ == 0 ? "'" : ", '") + name + "'";
     }
     if (count > 1)
-        return "option '" + printable(argument) + "' is short for more than one: " + candidates;
+        return "option '" + printable(argument) + "' is ambiguous: " + candidates;
     std::string message = "unknown option '" + printable(argument) + "'";
     if (argument.starts_with("--")) {
         argument.remove_prefix(2);
@@ -248,7 +247,7 @@ std::string usage() {
         }
         line.append(line.empty() ? "" : " ").append(name);
     }
-    return text + kIndent + line + "\n" + kUsageBehindKinds;
+    return text + kIndent + line + "\n" + kUsageAfterKinds;
 }
 
 /// Takes an option with its value. Gives what is wrong with it, or the empty text.
@@ -258,13 +257,12 @@ std::string take(int found, const std::string &value, Options &options) {
     switch (found) {
     case Found::form:
         if (!form)
-            return "unknown form '" + printable(value) +
-                   "'; there are timecode, line and paragraph";
+            return "unknown form '" + printable(value) + "': use timecode, line or paragraph";
         options.form = static_cast<Form>(*form);
         return "";
     case Found::clock:
         if (!clock)
-            return "unknown clock '" + printable(value) + "'; there are unbuffered and scc";
+            return "unknown clock '" + printable(value) + "': use unbuffered or scc";
         options.clock = static_cast<Clock>(*clock);
         return "";
     case Found::outputFolder:
@@ -286,7 +284,7 @@ std::string take(int found, const std::string &value, Options &options) {
     case Found::check:
     case Found::page:
         if (options.task != Task::transcribe)
-            return "--explain, --check and --page are tasks of their own";
+            return "--explain, --check and --page cannot be combined";
         options.task = found == Found::explain ? Task::explain
                        : found == Found::check ? Task::check
                                                : Task::page;
@@ -300,9 +298,9 @@ std::string take(int found, const std::string &value, Options &options) {
     case Found::at:
         options.choice.time = value;
         return isTime(value) ? ""
-                             : "no time '" + printable(value) +
-                                   "'; write 00:01:02:03 as the file has it or 00:01:02.10 as the "
-                                   "transcript does";
+                             : "invalid time '" + printable(value) +
+                                   "': write 00:01:02:03 as in the file or 00:01:02.10 as in the "
+                                   "transcript";
     case Found::advised:
         options.choice.advised = true;
         return "";
@@ -328,36 +326,36 @@ std::string take(int found, const std::string &value, Options &options) {
 /// What does not go together; empty when all does.
 std::string contradiction(const Options &options) {
     if (options.files.empty())
-        return "no file was named";
+        return "no file given";
     if (!options.rules.wanted.all() && options.task != Task::check)
-        return "--without goes with --check";
+        return "--without can be used only with --check";
     if (options.rules.told == Findings::Told::each && options.task != Task::check)
-        return "--each goes with --check";
+        return "--each can be used only with --check";
     const bool isChosen =
         !options.choice.text.empty() || !options.choice.time.empty() || options.choice.advised;
     if ((isChosen || options.screen) && options.task != Task::explain)
-        return "--find, --at, --advised and --screen go with --explain";
+        return "--find, --at, --advised and --screen can be used only with --explain";
     if (options.summary && options.task != Task::check)
-        return "--summary goes with --check";
+        return "--summary can be used only with --check";
     if (options.rules.limits.isAny() && options.task != Task::check)
-        return "--limit goes with --check";
+        return "--limit can be used only with --check";
     const bool explains = options.task == Task::explain || options.task == Task::check;
     if (options.json && !explains)
-        return "--json goes with --explain or --check";
+        return "--json can be used only with --explain or --check";
     const bool toFile = !options.outputFile.empty();
     const bool toFolder = !options.outputFolder.empty();
     if ((toFile || !options.heading) && options.task != Task::transcribe)
-        return "-o and --no-heading are for transcripts alone";
+        return "-o and --no-heading can be used only for transcripts";
     if ((options.force || toFolder) && explains)
-        return "--output-dir and --force are for transcripts and pages";
+        return "--output-dir and --force can be used only for transcripts and pages";
     if (options.open && options.task != Task::page)
-        return "--open goes with --page";
+        return "--open can be used only with --page";
     if (options.task == Task::page && options.files.size() > 1 && !options.open && !toFolder)
         return "--page of several files needs --output-dir or --open";
     if (toFile && toFolder)
-        return "-o and --output-dir are two places";
+        return "-o and --output-dir cannot be combined";
     if (toFile && options.files.size() > 1)
-        return "-o takes the transcript of one file; --output-dir takes those of all";
+        return "-o is for one file: use --output-dir for several";
     return "";
 }
 

@@ -39,7 +39,7 @@ std::string placeIn(const std::string &folder, const std::string &name) {
 namespace {
 
 Problem existsAlready(const std::string &path) {
-    return Problem(inQuotes(path) + " exists already; --force replaces it.");
+    return Problem(inQuotes(path) + " already exists: replace it with --force.");
 }
 
 } // namespace
@@ -54,7 +54,7 @@ void writeFile(const std::string &path, std::span<const std::string_view> parts,
     const SignalsWait wait;
     disk::NewFile file(absolutePath(path), readers, links);
     if (input != nullptr && file.replaces(*input))
-        throw Problem(inQuotes(path) + " is the input itself, which stays as it is.");
+        throw Problem(inQuotes(path) + " is the input itself and cannot be replaced.");
     if (!force)
         file.mustBeNew();
     for (const std::string_view part : parts)

@@ -31,7 +31,7 @@ PageData dataOf(const std::string &path, const std::string &shown, const Options
         input.emplace(path, options);
         if (input->all(kLargest).size() > kLargest)
             throw Problem("is too large for a page.",
-                          "Ask for single lines with --explain FILE:LINE, or use --check.");
+                          "Explain single lines with --explain FILE:LINE, or use --check.");
         return pageData(input->all(), shown, kProgram, options.clock);
     } catch (const Problem &problem) {
         return refusedPage(shown, kProgram, problem);

@@ -61,7 +61,7 @@ std::string temporaryFolder() {
     const std::filesystem::path all = std::filesystem::temp_directory_path(error);
     std::string folder = (error ? "/tmp" : all.string()) + "/norvane-XXXXXX";
     if (mkdtemp(folder.data()) == nullptr)
-        throw Problem("There is no folder to write the page to.");
+        throw Problem("a folder for the page cannot be created.");
     return folder;
 }
 
@@ -135,7 +135,7 @@ void openByDesktop(const std::string &path) {
     posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&files);
     if (error != 0 || earlyStatus(process) != 0)
-        throw Problem("its page cannot be opened by the desktop.",
+        throw Problem("the desktop cannot open its page.",
                       "Open it in a browser: " + printable(path));
 }
 

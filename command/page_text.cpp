@@ -34,8 +34,8 @@ std::string pageText(PageKind kind, std::string_view title, std::string_view dat
         "'; base-uri 'none'; form-action 'none'\">\n"
         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>",
         escaped(title), "</title>\n<style>", kPageStyle,
-        "</style>\n</head>\n<body>\n<main id=\"view\"><noscript>This page is drawn by its own "
-        "script, which this browser does not run.</noscript></main>\n"
+        "</style>\n</head>\n<body>\n<main id=\"view\"><noscript>This page needs JavaScript, which "
+        "is turned off in this browser.</noscript></main>\n"
         "<script type=\"application/json\" id=\"",
         kind == PageKind::film ? "film" : "films", "\">");
     page.append(forPage(data));

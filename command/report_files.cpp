@@ -97,8 +97,8 @@ Place placeOf(const std::string &argument) {
         return place;
     const bool isFile = place.path == "-" || (!place.path.empty() && isThere(place.path));
     if (isFile)
-        throw Problem(inQuotes(lines) + " names no line.",
-                      "Lines count from 1: write FILE:7, or FILE:7-12.");
+        throw Problem(inQuotes(lines) + " is not a line number.",
+                      "Lines are numbered from 1: write FILE:7 or FILE:7-12.");
     return {argument};
 }
 

@@ -14,17 +14,16 @@ namespace {
 /// What is wrong with the first line; the empty text when nothing is.
 std::string headerFault(std::string_view header) {
     if (header.empty())
-        return "The file is empty: ask for it again.";
+        return "The file is empty: request a new copy.";
     header = withoutByteOrderMark(header);
     if (header.starts_with(kSccHeader))
         return "";
     if (std::holds_alternative<DataLine>(takeApart(header))) {
-        return "The file has no header, so that its first caption is lost in its place: insert "
-               "the line " +
-               inQuotes(kSccHeader) + " before it.";
+        return "The header is missing, and the first line is skipped in its place: insert " +
+               inQuotes(kSccHeader) + " above it.";
     }
-    return "The first line is " + startInQuotes(header) + ", and not " + inQuotes(kSccHeader) +
-           ", by which programs know the format: correct it.";
+    return "The first line is " + startInQuotes(header) + " instead of " + inQuotes(kSccHeader) +
+           ", which identifies the format: correct it.";
 }
 
 /// Why a line has no entry, which the decode knows.
@@ -60,8 +59,8 @@ bool Check::begin(std::string_view beginning, std::string_view header, std::size
         });
     };
     if (withoutByteOrderMark(header).size() < header.size() && foreign.empty())
-        tell(FindingKind::bom, "The file begins with a byte order mark, which not every program "
-                               "passes over: save it without.");
+        tell(FindingKind::bom, "The file begins with a byte order mark, which some programs "
+                               "reject: save it without one.");
     if (!fault.empty())
         tell(FindingKind::header, fault);
     needsCaptions_ = !header.empty() && foreign.empty();
@@ -93,7 +92,7 @@ void Check::lookAtEntry(const SccLine &line) {
         findings_.add(line.number, FindingKind::tab, 1, [&] {
             return findingOn(line, "The text after the second tab, " +
                                        startInQuotes(line.text.substr(read + 1)) +
-                                       ", is not read: put a space in place of that tab.");
+                                       ", is ignored: replace that tab with a space.");
         });
     }
     walk_.walk(line);
@@ -103,7 +102,7 @@ void Check::lookAtEntry(const SccLine &line) {
         lookAtRemarks(line);
 }
 
-/// Where the transcript of a line is not what its words say, though they are sound: digits that
+/// Where the transcript of a line differs from its words though these are correct: digits that
 /// stay, and words that the chain alters.
 void Check::lookAtRemarks(const SccLine &line) {
     constexpr std::size_t kMostWords = 8;
@@ -130,7 +129,7 @@ CheckResult Check::finish() {
     if (summary.captions == 0 && needsCaptions_) {
         findings_.add(headerNumber_, FindingKind::empty, 0, [] {
             Finding finding;
-            finding.text = "No caption is ever shown: ask for the file again.";
+            finding.text = "No caption is ever shown: request a new copy.";
             return finding;
         });
     }

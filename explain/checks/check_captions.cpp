@@ -72,10 +72,10 @@ void lookAtLost(const Caption &caption, const CaptionTeller &teller) {
     const bool isErased = caption.removedBy.has_value();
     teller.onWord(sendingOf(caption).first, FindingKind::neverShown, isErased ? 0 : 1, {}, [&] {
         return startOf(caption) +
-               (isErased ? " is loaded, and line " + std::to_string(caption.removedBy->line) +
-                               " erases it before anything shows it: send EOC (942f 942f) ahead "
-                               "of that."
-                         : " is loaded, and nothing shows it: send EOC (942f 942f) after it.");
+               (isErased
+                    ? " is loaded but erased in line " + std::to_string(caption.removedBy->line) +
+                          " before it is shown: send EOC (942f 942f) before that."
+                    : " is loaded but never shown: send EOC (942f 942f) after it.");
     });
 }
 
@@ -125,39 +125,39 @@ void CaptionCheck::lookAtTimes(const Caption &caption, Findings &findings) {
             return; // rows of one screen are one finding
         stays_.set(static_cast<std::size_t>(caption.service));
         teller.onShowing(FindingKind::neverErased, 0, [&] {
-            return "Nothing takes " + startOf(caption) +
-                   " away: end the film with a line that erases it (942c 942c).";
+            return startOf(caption) +
+                   " is never erased: add a line with EDM (942c 942c) at the end.";
         });
         return;
     }
-    const auto isSeenFor = [&] { return startOf(caption) + " is seen for " + frames(*seen); };
+    const auto isSeenFor = [&] { return startOf(caption) + " is on screen for " + frames(*seen); };
     if (*seen < 0)
         return; // the lines are out of order
     if (caption.mode == CaptionMode::popOn && *seen <= kSeenByNobody) {
         teller.onShowing(FindingKind::neverShown, 2, [&] {
-            return isSeenFor() + ", which nobody sees: let line " +
-                   std::to_string(caption.removedBy->line) + " take it away later.";
+            return isSeenFor() + ", too briefly to be seen: delay its removal in line " +
+                   std::to_string(caption.removedBy->line) + ".";
         });
     }
     const auto length = static_cast<double>(*seen);
     if (limits_.shortest && length < *limits_.shortest) {
         teller.onShowing(FindingKind::shortest, 0, [&] {
-            return isSeenFor() + ", while " + number(*limits_.shortest) +
-                   " are wanted at least: show it longer.";
+            return isSeenFor() + "; the minimum is " + number(*limits_.shortest) +
+                   ": show it longer.";
         });
     }
     if (limits_.longest && length > *limits_.longest) {
         teller.onShowing(FindingKind::longest, 0, [&] {
-            return isSeenFor() + ", while " + number(*limits_.longest) +
-                   " are wanted at most: take it away earlier.";
+            return isSeenFor() + "; the limit is " + number(*limits_.longest) +
+                   ": remove it earlier.";
         });
     }
     const auto rate = readingRateOf(caption);
     if (limits_.readingRate && rate && *rate > *limits_.readingRate) {
         teller.onShowing(FindingKind::readingRate, 0, [&] {
             return startOf(caption) + " has " + counted(charactersOf(caption), "character") +
-                   " for " + frames(*seen) + ", " + number(*rate) + " a second, while " +
-                   number(*limits_.readingRate) + " are wanted at most: show it longer.";
+                   " in " + frames(*seen) + ", " + number(*rate) + " per second; the limit is " +
+                   number(*limits_.readingRate) + ": show it longer.";
         });
     }
 }
@@ -167,9 +167,8 @@ void CaptionCheck::lookAtGap(const Caption &caption, Findings &findings) {
     const long gap = end ? caption.shownBy->frame - *end : 0;
     if (limits_.gap && end && gap >= 0 && static_cast<double>(gap) < *limits_.gap) {
         CaptionTeller(caption, summary_.dropFrame, findings).onShowing(FindingKind::gap, 0, [&] {
-            return startOf(caption) + " comes " + frames(gap) +
-                   " after the caption before it, but " + number(*limits_.gap) +
-                   " are wanted at least: take that one away earlier.";
+            return startOf(caption) + " follows the previous caption after " + frames(gap) +
+                   "; the minimum is " + number(*limits_.gap) + ": remove that one earlier.";
         });
     }
     if (caption.removedBy)
@@ -179,17 +178,17 @@ void CaptionCheck::lookAtGap(const Caption &caption, Findings &findings) {
 void CaptionCheck::lookAtRows(const Caption &caption, Findings &findings) {
     constexpr int kMostRows = 4;
     const CaptionTeller teller(caption, summary_.dropFrame, findings);
+    const auto onScreen = [&] {
+        return "With " + startOf(caption) + ", the screen has " +
+               counted(caption.rowsOnScreen, "row") + " of text";
+    };
     if (caption.rowsOnScreen > kMostRows) {
         teller.onWord(sendingOf(caption).first, FindingKind::rows, 0, {}, [&] {
-            return std::to_string(caption.rowsOnScreen) + " rows are on the screen at once with " +
-                   startOf(caption) +
-                   "; a decoder shows four, and many erase the others: make two captions of it.";
+            return onScreen() + "; decoders show four, and many erase the rest: split the caption.";
         });
     } else if (limits_.rows && caption.rowsOnScreen > *limits_.rows) {
         teller.onWord(sendingOf(caption).first, FindingKind::rows, 2, Severity::warning, [&] {
-            return std::to_string(caption.rowsOnScreen) + " rows are on the screen at once with " +
-                   startOf(caption) + ", while " + number(*limits_.rows) +
-                   " are wanted at most: make two captions of it.";
+            return onScreen() + "; the limit is " + number(*limits_.rows) + ": split the caption.";
         });
     }
     int upperRows = 0;
@@ -200,8 +199,9 @@ void CaptionCheck::lookAtRows(const Caption &caption, Findings &findings) {
     if (limits_.upperRows && upperRows > *limits_.upperRows) {
         const CaptionRow &row = *std::find_if(caption.rows.begin(), caption.rows.end(), isUpper);
         teller.onWord(row.cells.front().sent, FindingKind::upperRows, 0, {}, [&] {
-            return startOf(caption) + " is on row " + std::to_string(row.row) +
-                   ", while rows 5 to 11 are to be left free: move it up or down.";
+            return startOf(caption) + ", in row " + std::to_string(row.row) + ", uses " +
+                   std::to_string(upperRows) + " of rows 5 to 11; the limit is " +
+                   number(*limits_.upperRows) + ": move it up or down.";
         });
     }
 }
@@ -209,15 +209,15 @@ void CaptionCheck::lookAtRows(const Caption &caption, Findings &findings) {
 void CaptionCheck::lookAtLength(const CaptionRow &row, const CaptionTeller &teller) const {
     if (row.beyond > 0) {
         teller.onWord(row.cells.back().sent, FindingKind::columns, 0, {}, [&] {
-            return "A row of text ends in column " + std::to_string(kScreenColumns + row.beyond) +
-                   ", but the screen has 32: break the row.";
+            return "A row ends in column " + std::to_string(kScreenColumns + row.beyond) +
+                   "; the screen has 32: break the row.";
         });
     }
     const auto length = static_cast<long>(row.cells.size());
     if (limits_.rowLength && static_cast<double>(length) > *limits_.rowLength) {
         teller.onWord(row.cells.front().sent, FindingKind::rowLength, 0, {}, [&] {
             return startInQuotes(textOf(row)) + " has " + counted(length, "character") +
-                   ", while " + number(*limits_.rowLength) + " are wanted at most: break the row.";
+                   "; the limit is " + number(*limits_.rowLength) + ": break the row.";
         });
     }
 }

@@ -52,11 +52,11 @@ Finding malformedWords(const SccLine &line) {
 Finding wrongParity(const SccLine &line) {
     return findingOnWords(
         line, wordsThat(line, [](const SccWord &word) { return word.isCode && !word.parity; }),
-        "Wrong parity: ",
+        "Wrong parity in ",
         [](const SccWord &word) {
-            return digitsOf(word) + " (" + wordOf(word.meaning->withParity) + " is right)";
+            return digitsOf(word) + " (should be " + wordOf(word.meaning->withParity) + ")";
         },
-        ". Correct the line, or ask for a new export.");
+        ": correct the line or request a new export.");
 }
 
 bool isUnknown(const SccWord &word) {
@@ -66,15 +66,17 @@ bool isUnknown(const SccWord &word) {
 Finding unknownCodes(const SccLine &line) {
     const auto words = wordsThat(line, isUnknown);
     return findingOnWords(line, words, "", digitsOf,
-                          std::string(words.size() == 1 ? ": not a code" : ": not codes") +
-                              " of CEA-608. Correct or delete.");
+                          words.size() == 1 ? " is not a CEA-608 code: correct or delete it."
+                                            : " are not CEA-608 codes: correct or delete them.");
 }
 
 Finding otherField(const SccLine &line) {
+    const auto words =
+        wordsThat(line, [](const SccWord &word) { return word.meaning->secondField; });
     return findingOnWords(
-        line, wordsThat(line, [](const SccWord &word) { return word.meaning->secondField; }), "",
-        digitsOf,
-        ": of field 2, while an SCC file is for field 1. Ask for a file of field 1 alone.");
+        line, words, "", digitsOf,
+        std::string(words.size() == 1 ? " belongs" : " belong") +
+            " to field 2, but an SCC file is for field 1: request a file of field 1 only.");
 }
 
 /// A base row of roll-up that leaves no room for the rows above it; 0 for any other word.
@@ -90,9 +92,8 @@ Finding highBase(const SccLine &line) {
     const std::string row = std::to_string(highBaseRow(*words.front()));
     const std::string rows = std::to_string(rowsOf(words.front()->mode));
     return findingOnWords(line, {words.front()}, "", digitsOf,
-                          " makes row " + row + " the base of a roll-up of " + rows +
-                              " rows, which do not fit there: take row " + rows +
-                              " or one below it.");
+                          " sets base row " + row + " for a roll-up of " + rows +
+                              " rows, which do not fit: use row " + rows + " or one below it.");
 }
 
 bool isTextModeCode(const SccWord &word) {
@@ -130,13 +131,11 @@ void lookAtServices(const SccLine &line, Findings &findings) {
                                        std::string(nameOf(service));
             return findingOn(
                 line,
-                isChannel ? belong + ", a second channel, whose codes stay as digits: ask for a "
-                                     "file of the first channel alone."
+                isChannel ? belong + ", a second channel, whose codes stay as digits: request a "
+                                     "file of the first channel only."
                 : isLone
-                    ? digits + " begins the text mode, and what follows ends it before any text "
-                               "is sent: delete it."
-                    : belong + ", the text mode, which is beside the captions: ask for a file of "
-                               "captions alone.",
+                    ? digits + " starts text mode, which ends before any text is sent: delete it."
+                    : belong + ", a text mode service: request a file of captions only.",
                 first[i], {digits});
         };
         findings.add(line.number, isChannel ? FindingKind::channel : FindingKind::textMode,
@@ -232,9 +231,8 @@ void CodeCheck::tellSingles(Findings &findings) {
             }
             for (std::size_t i = singles_.codes.size(); i < singles_.count; ++i)
                 list.add("");
-            finding.text =
-                list.text() +
-                ": sent only once, although the file sends its codes twice. Correct the line.";
+            finding.text = list.text() + (singles_.count == 1 ? " is" : " are") +
+                           " sent only once, but the file sends its codes twice: correct the line.";
             finding.timecode = singles_.timecode;
             finding.frame = singles_.frames.front();
             return finding;
@@ -251,8 +249,8 @@ void CodeCheck::finish(Findings &findings) {
         findings.takeBack(FindingKind::single); // the file sends them once
     if (2 * wrongWords_ > words_) {
         findings.tellOnce(FindingKind::parity,
-                          "Here and in most of the file the parity is wrong, as when it was "
-                          "written without parity bits: ask for a new export.");
+                          "Parity is wrong here and in most of the file, as if it was written "
+                          "without parity bits: request a new export.");
     }
 }
 

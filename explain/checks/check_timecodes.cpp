@@ -29,7 +29,7 @@ void TimecodeCheck::look(const SccLine &line, Findings &findings) {
     if (!line.timecode) {
         tell(line, FindingKind::timecodeForm, findings, [&] {
             return startInQuotes(line.data.timecode) +
-                   " is not of the form HH:MM:SS:FF (drop-frame: HH:MM:SS;FF): correct it.";
+                   " is not in the form HH:MM:SS:FF (drop-frame: HH:MM:SS;FF): correct it.";
         });
         return;
     }
@@ -40,21 +40,21 @@ void TimecodeCheck::look(const SccLine &line, Findings &findings) {
         first_ = now;
     if (timecode.dropFrame != first_->timecode.dropFrame) {
         tell(line, FindingKind::separator, findings, [&] {
-            return "The frames follow " + markOf(timecode) + ", but in line " +
-                   std::to_string(first_->line) + " they follow " + markOf(first_->timecode) +
-                   ": ask which of them is meant.";
+            return "The separator is " + markOf(timecode) + ", but in line " +
+                   std::to_string(first_->line) + " it is " + markOf(first_->timecode) +
+                   ": ask which is meant.";
         });
     }
     if (comesAgain(line)) {
         tell(line, FindingKind::twice, findings, [&] {
-            return "The same line as line " + std::to_string(lineBeforeNumber_) +
+            return "Duplicate of line " + std::to_string(lineBeforeNumber_) +
                    ": delete one of them.";
         });
     } else if (exists(timecode) && before_ && before_->timecode.dropFrame == timecode.dropFrame) {
         lookAtOrder(line, findings);
     }
     lineBeforeNumber_ = line.number;
-    if (exists(timecode)) // where another lies, nobody knows
+    if (exists(timecode)) // one that does not exist has no place in the order
         before_ = now;
 }
 
@@ -62,20 +62,20 @@ void TimecodeCheck::lookAtFrames(const SccLine &line, Findings &findings) {
     const FrameTimecode &timecode = *line.timecode;
     if (timecode.hours >= 24) {
         tell(line, FindingKind::hours, findings, [&] {
-            return "There is no hour " + std::to_string(timecode.hours) +
-                   ", since a day has the hours 00 to 23: correct the timecode.";
+            return "Hour " + std::to_string(timecode.hours) +
+                   " does not exist (00 to 23): correct the timecode.";
         });
     }
     if (timecode.frames >= 30) {
         tell(line, FindingKind::frame, findings, [&] {
-            return "There is no frame " + std::to_string(timecode.frames) +
-                   ", since a second has the frames 00 to 29: correct the timecode.";
+            return "Frame " + std::to_string(timecode.frames) +
+                   " does not exist (00 to 29): correct the timecode.";
         });
     } else if (timecode.isDropped()) {
         tell(line, FindingKind::droppedFrame, findings, [&] {
             return std::string(line.data.timecode) +
-                   " does not exist: drop-frame skips the frames 00 and 01 of each minute but "
-                   "every tenth. Correct the timecode.";
+                   " does not exist, since drop-frame skips frames 00 and 01 of each minute "
+                   "except every tenth: correct the timecode.";
         });
     }
 }
@@ -86,19 +86,19 @@ void TimecodeCheck::lookAtOrder(const SccLine &line, Findings &findings) const {
     const long end = start + before_->words;
     if (timecode.count() < start) {
         tell(line, FindingKind::order, findings, [&] {
-            return "The timecode is earlier than that of line " + std::to_string(before_->line) +
-                   ", " + textOf(before_->timecode) + ": put the lines in order.";
+            return "The timecode is earlier than " + textOf(before_->timecode) + " in line " +
+                   std::to_string(before_->line) + ": put the lines in order.";
         });
     } else if (timecode.count() < end) {
         tell(line, FindingKind::overlap, findings, [&] {
-            return "Sending line " + std::to_string(before_->line) + " takes until " +
-                   frameTimecode(end, timecode.dropFrame) + ", " +
+            return "Line " + std::to_string(before_->line) + " takes until " +
+                   frameTimecode(end, timecode.dropFrame) + " to send, " +
                    counted(end - timecode.count(), "frame") + " too long: move one of the lines.";
         });
     }
 }
 
-/// Blanks at the end make no other line.
+/// Whether a line repeats the previous one; blanks at the end do not count.
 bool TimecodeCheck::comesAgain(const SccLine &line) {
     std::string_view text = line.text;
     while (text.ends_with(' '))

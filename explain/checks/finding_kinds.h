@@ -8,7 +8,7 @@
 
 namespace norvane {
 
-/// What can be wrong with a file, with its captions, or with what the transcript makes of it.
+/// What can be wrong with a file, its captions or its transcript.
 enum class FindingKind : std::uint8_t {
     header,
     bom,
@@ -46,8 +46,8 @@ enum class FindingKind : std::uint8_t {
 
 enum class Severity : std::uint8_t {
     error,   // the file breaks the standard, or loses a caption
-    warning, // a habit that can go wrong, or a limit that the user set
-    note,    // the transcript alone is concerned
+    warning, // a risky habit, or a limit that the user set
+    note,    // concerns the transcript only
 };
 inline constexpr auto kSeverityNames =
     std::to_array<std::string_view>({"error", "warning", "note"});
@@ -60,37 +60,37 @@ struct FindingKindInfo {
 
 inline constexpr auto kFindingKinds = std::to_array<FindingKindInfo>({
     {"header", Severity::error, "no SCC header"},
-    {"bom", Severity::warning, "a byte order mark"},
-    {"tab", Severity::error, "tabs amiss"},
+    {"bom", Severity::warning, "byte order mark"},
+    {"tab", Severity::error, "missing or extra tabs"},
     {"timecode", Severity::error, "lines without a timecode"},
-    {"timecode-form", Severity::error, "timecodes of another form"},
-    {"hours", Severity::error, "hours that no clock has"},
-    {"frame", Severity::error, "frames that no second has"},
-    {"dropped-frame", Severity::error, "frames that drop-frame leaves out"},
-    {"separator", Severity::error, "drop-frame and non-drop mixed"},
+    {"timecode-form", Severity::error, "malformed timecodes"},
+    {"hours", Severity::error, "hours above 23"},
+    {"frame", Severity::error, "frames above 29"},
+    {"dropped-frame", Severity::error, "frames that drop-frame skips"},
+    {"separator", Severity::error, "mixed drop-frame and non-drop"},
     {"order", Severity::error, "lines out of order"},
-    {"overlap", Severity::error, "lines too close to the one before"},
-    {"twice", Severity::warning, "lines that come twice"},
-    {"word", Severity::error, "words that are none"},
+    {"overlap", Severity::error, "overlapping lines"},
+    {"twice", Severity::warning, "duplicate lines"},
+    {"word", Severity::error, "malformed words"},
     {"parity", Severity::error, "wrong parity"},
-    {"single", Severity::warning, "codes sent once"},
+    {"single", Severity::warning, "codes sent only once"},
     {"channel", Severity::warning, "words of a second channel"},
-    {"field", Severity::error, "codes of field 2"},
-    {"text-mode", Severity::warning, "words of text mode"},
-    {"code", Severity::error, "codes that CEA-608 does not have"},
-    {"empty", Severity::error, "no caption at all"},
-    {"never-shown", Severity::error, "captions that nobody sees"},
-    {"never-erased", Severity::warning, "captions that nothing takes away"},
-    {"columns", Severity::error, "rows too long for a screen"},
-    {"rows", Severity::error, "more rows than a screen has room for"},
+    {"field", Severity::error, "field 2 codes"},
+    {"text-mode", Severity::warning, "text mode words"},
+    {"code", Severity::error, "codes not in CEA-608"},
+    {"empty", Severity::error, "no captions"},
+    {"never-shown", Severity::error, "captions never shown"},
+    {"never-erased", Severity::warning, "captions never erased"},
+    {"columns", Severity::error, "rows too long for the screen"},
+    {"rows", Severity::error, "too many rows"},
     {"reading-rate", Severity::warning, "captions too fast to read"},
-    {"shortest", Severity::warning, "captions seen too briefly"},
-    {"longest", Severity::warning, "captions seen too long"},
-    {"gap", Severity::warning, "captions too close to each other"},
-    {"row-length", Severity::warning, "rows longer than is wanted"},
-    {"upper-rows", Severity::warning, "text on rows 5 to 11"},
-    {"digits", Severity::note, "words that the transcript keeps as digits"},
-    {"altered", Severity::note, "words that the transcript alters"},
+    {"shortest", Severity::warning, "captions on screen too briefly"},
+    {"longest", Severity::warning, "captions on screen too long"},
+    {"gap", Severity::warning, "captions too close together"},
+    {"row-length", Severity::warning, "rows over the length limit"},
+    {"upper-rows", Severity::warning, "text in rows 5 to 11"},
+    {"digits", Severity::note, "words left as digits"},
+    {"altered", Severity::note, "words altered in the transcript"},
 });
 
 using FindingKinds = std::bitset<kFindingKinds.size()>;

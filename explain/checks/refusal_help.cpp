@@ -20,31 +20,28 @@ constexpr std::string_view kNul = "\0"sv;
 
 std::string foreignFormat(std::string_view text) {
     if (!text.empty() && holdsOnly(text, kNul))
-        return "The file holds nothing but NULs, which is what a failed copy leaves: ask for it "
-               "again.";
+        return "The file contains only NUL bytes, as after a failed copy: request a new copy.";
     if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF") ||
         text.substr(0, 2).find('\0') != std::string_view::npos)
-        return "The text is in UTF-16: save it as plain text or UTF-8.";
+        return "The file is UTF-16: save it as plain text or UTF-8.";
     text = withoutByteOrderMark(text);
     if (text.starts_with("WEBVTT"))
-        return "These are WebVTT subtitles with the name of an SCC file: ask for the SCC file.";
+        return "This is a WebVTT file with the name of an SCC file: request the SCC file.";
     LineReader lines(text);
     const std::string_view number = lines.nextNotEmpty();
     if (!number.empty() && holdsOnly(number, "0123456789") &&
         lines.next().find(" --> ") != std::string_view::npos)
-        return "These are SubRip subtitles with the name of an SCC file: ask for the SCC file.";
+        return "This is a SubRip file with the name of an SCC file: request the SCC file.";
     return "";
 }
 
 std::string refusalHelp(std::string_view line) {
     constexpr std::size_t kTimecodeSize = 11;
     if (holdsOnly(line, kNul)) {
-        return "The line holds nothing but NULs, which is what a failed copy leaves: ask for the "
-               "file again.";
+        return "The line contains only NUL bytes, as after a failed copy: request a new copy.";
     }
     if (holdsOnly(line, " \t")) {
-        return "The line has nothing but spaces, and only lines without any character are "
-               "skipped: delete it.";
+        return "The line contains only spaces, and only empty lines are skipped: delete it.";
     }
     for (const std::string_view comment : {"//", "/*", "#", ";", "--", "NOTE"}) {
         if (line.starts_with(comment))
@@ -52,8 +49,8 @@ std::string refusalHelp(std::string_view line) {
     }
     if (readFrameTimecode(line.substr(0, kTimecodeSize)) && line.size() > kTimecodeSize &&
         line[kTimecodeSize] == ' ')
-        return "There is a space in place of the tab: put a tab after the timecode, here and "
-               "in all other lines.";
+        return "The timecode is followed by a space instead of a tab: replace it, here and in "
+               "all other lines.";
     return "After the header, each line must be a timecode, a tab and words of four hex digits: "
            "correct it.";
 }
@@ -62,7 +59,7 @@ std::string entryHelp(const DataLine &line, Clock clock) {
     constexpr std::size_t kFields = 4;
     return clock == Clock::unbuffered &&
                    Split(ReplaceAll(line.timecode, ";", ":"), ":").size() < kFields
-               ? "Write HH:MM:SS:FF, or keep the times as the file has them."
+               ? "Write HH:MM:SS:FF, or keep the SCC timecode."
                : "Characters are read in pairs: correct the words of this line.";
 }
 

@@ -19,7 +19,7 @@ std::string_view nameOf(Colour colour) {
 void addWhen(TextReport &report, const FilmCaptions &captions, const Caption &caption,
              std::size_t line) {
     if (caption.number == 0) {
-        report.add("never seen");
+        report.add("never shown");
         if (caption.removedBy)
             report.add(", erased by line ").add(std::size_t{caption.removedBy->line});
         return;
@@ -30,9 +30,9 @@ void addWhen(TextReport &report, const FilmCaptions &captions, const Caption &ca
     if (caption.shownBy->line != line)
         report.add(", shown by line ").add(std::size_t{caption.shownBy->line});
     if (!caption.removedBy)
-        report.add(", never taken away");
+        report.add(", never removed");
     else if (caption.removedBy->line != line)
-        report.add(", taken away by line ").add(std::size_t{caption.removedBy->line});
+        report.add(", removed by line ").add(std::size_t{caption.removedBy->line});
 }
 
 /// The rows of a caption between lines that are as wide as the screen.

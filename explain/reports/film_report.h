@@ -62,7 +62,7 @@ void explainFilm(std::string_view text, std::string_view file, const Explanation
         throw Problem("there is no such line, or it is empty.", "",
                       choice.lastLine == LineChoice().lastLine ? 0 : choice.firstLine);
     if (isFirst && !choice.advised)
-        throw Problem("no line of the file is of that text or time.");
+        throw Problem("no line has that text or time.");
 }
 
 } // namespace norvane

@@ -73,7 +73,7 @@ void addFate(TextReport &report, const WordFate &fate) {
         isFirst = false;
     }
     if (isFirst)
-        report.add(fate.isShared ? "read with the word before" : "deleted");
+        report.add(fate.isShared ? "read with the previous word" : "deleted");
 }
 
 void addAdvice(TextReport &report, const std::vector<std::string> &advice) {
@@ -216,9 +216,9 @@ void add(TextReport &report, std::string_view file, const Finding &finding) {
     if (finding.count > 1) {
         report.add(" And ").add(finding.count - 1).add(" more");
         for (std::size_t i = 1; i < finding.lines.size(); ++i) {
-            report.add(i > 1                ? ", "
-                       : finding.count == 2 ? ", line "
-                                            : ", lines ")
+            report.add(i > 1                       ? ", "
+                       : finding.lines.size() == 2 ? ", line "
+                                                   : ", lines ")
                 .add(finding.lines[i]);
         }
         report.add(finding.lines.size() < finding.count ? " ...; --each lists them." : ".");

@@ -173,7 +173,7 @@ Draft draftOf(unsigned first, unsigned second) {
         draft.name = "“" + draft.shown + "”";
     }
     if (meaning.kind == CodeKind::none)
-        draft.name = "no code of CEA-608";
+        draft.name = "not a CEA-608 code";
     return draft;
 }
 

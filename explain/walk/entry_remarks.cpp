@@ -127,7 +127,7 @@ class Remarker {
     std::optional<SaidLine> saidLine_;
 };
 
-/// "9 of d049 and 454 of 4543 read together as 9454 (PAC row 14 indent 8)".
+/// "9 of d049 and 454 of 4543 are read as 9454 (PAC row 14 indent 8)".
 std::string Remarker::tell(const Crossing &crossing) const {
     std::string text;
     std::string key;
@@ -141,7 +141,7 @@ std::string Remarker::tell(const Crossing &crossing) const {
         text.append(digits).append(" of ").append(word.digits);
         key += digits;
     }
-    return text + " read together as " + key + " (" + nameOfKey(key) + ")";
+    return text + " are read as " + key + " (" + nameOfKey(key) + ")";
 }
 
 bool Remarker::isSound(const Crossing &crossing) const {
@@ -189,7 +189,7 @@ void Remarker::remarkOnCrossingsOf(const SaidText &said, std::vector<Crossing> c
         text += " and " + std::to_string(crossings.size() - kMost) + " more";
     add(Kind::altered, crossings.front().row, word, lastWord - word + 1,
         text + (sound ? ". The file is correct: edit the transcript."
-                      : ". Correct these words of the file first."));
+                      : ". Correct these words in the file first."));
 }
 
 void Remarker::remarkOnDigits() {
@@ -204,9 +204,8 @@ void Remarker::remarkOnDigits() {
             inStep = !inStep;
             if (!inStep && i + 1 < line_.words.size() && !isNarrow(line_.words[i + 1])) {
                 add(Kind::altered, kNarrowCause | word.code, i, 1,
-                    std::string(word.digits).append(", ").append(word.meaning->name) +
-                        ", loses its space in the transcript, and what follows is read out of "
-                        "step. "
+                    std::string(word.digits).append(" (").append(word.meaning->name) +
+                        ") loses its space in the transcript, and the text after it is misread. "
                         "The file is correct: edit the transcript.");
             }
             continue;
@@ -219,15 +218,14 @@ void Remarker::remarkOnDigits() {
         const WordFate fate = walk_.fateOf(i, 1);
         if (fate.kept.empty() || !fate.swallowed.empty() || !told.insert(word.digits).second)
             continue;
-        kept.add(std::string(word.digits).append(" (").append(word.meaning->name) +
-                 "), which stays as " + inQuotes(fate.text));
+        kept.add(std::string(word.digits).append(" (").append(word.meaning->name) + ") stays as " +
+                 inQuotes(fate.text));
         first = std::min(first, i);
         last = i;
     }
     if (!kept.empty()) {
         add(Kind::digits, line_.words[first].code, first, last - first + 1,
-            "The program does not know " + kept.text() +
-                ". The file is correct: edit the transcript.");
+            "Not decoded: " + kept.text() + ". The file is correct: edit the transcript.");
     }
 }
 
@@ -267,11 +265,11 @@ void Remarker::remarkOnWords() {
     }
     if (told.style) {
         advise(
-            "“--” stands for a change of style, which takes a column: put a space in its place.");
+            "“--” stands for a change of style, which takes up a column: replace it with a space.");
     }
     if (told.block) {
         advise(
-            "“█” is a bar to the program, which takes bars out or makes them blanks: correct the "
+            "The program treats “█” as a bar, which it deletes or turns into a space: correct the "
             "transcript.");
     }
 }
@@ -285,7 +283,7 @@ void Remarker::remarkOnOther(std::size_t index, Told &told) {
         return;
     if (!fate.swallowed.empty() || !fate.kept.empty() || !word.isCode || !word.parity ||
         word.service != Service::cc1)
-        return; // told for what it is
+        return; // reported as digits, as an altered word or by the check
     const bool stands = !fate.text.empty() && !fate.isBlank;
     const bool isStyle = meaning.kind == CodeKind::midRow || meaning.code == code::kFon;
     if (meaning.shown.find("█") != std::string_view::npos) {
@@ -293,12 +291,12 @@ void Remarker::remarkOnOther(std::size_t index, Told &told) {
     } else if (isStyle && stands) {
         told.style = true;
     } else if (isCharacterCode(word) && stands && word.repeats) {
-        advise(inQuotes(meaning.shown) + " is sent twice, as codes are, and appears twice in the "
+        advise(inQuotes(meaning.shown) + " is sent twice, like a code, and appears twice in the "
                                          "transcript: delete one.");
     } else if (meaning.kind == CodeKind::extended && stands && fallbackOf(index) != index) {
         const std::size_t fallback = fallbackOf(index);
         const std::string plain = inQuotes(lastCharacter(line_.words[fallback].meaning->shown));
-        advise(inQuotes(meaning.shown) + " takes the place of the " + plain +
+        advise(inQuotes(meaning.shown) + " replaces the " + plain +
                " before it, which is for old decoders; the transcript has both: delete " + plain +
                ".");
     } else if (word.repeats || fate.isBlank || (stands && isDoubled(index))) {
@@ -353,7 +351,7 @@ void Remarker::remarkOnTheRest() {
     if (ReplaceAll(seen, " ", "") != ReplaceAll(written, " ", "")) {
         add(Kind::altered, kDifferenceCause, 0, line_.words.size(),
             "The viewer reads " + (seen.empty() ? "nothing" : startInQuotes(seen)) +
-                ", the transcript has " + startInQuotes(written) +
+                "; the transcript has " + startInQuotes(written) +
                 ". The file is correct: edit the transcript.");
     }
 }
@@ -381,13 +379,13 @@ void Remarker::remarkOnDifference(std::size_t index, const WordFate &fate) {
         around.text.empty() ? "" : walk_.entryOf(around.start, std::max(around.end, end));
     std::string text;
     if (!hasText && !fate.text.empty() && !fate.isBlank) {
-        text = inQuotes(fate.text) + " comes of " + is + ", which shows nothing: take it out.";
+        text = inQuotes(fate.text) + " comes from " + is + ", which shows nothing: delete it.";
     } else if (folded(written) != folded(around.text) || word.meaning->code == code::kBs) {
         if (around.text.empty() || !said_.insert(around.text + '\n' + written).second)
             return; // nothing that is read, or told with another of its words
-        text = "The viewer reads " + startInQuotes(around.text) + ", the transcript has " +
-               startInQuotes(written) + ": of " + is + " it has " +
-               (fate.text.empty() ? "nothing" : inQuotes(fate.text)) +
+        text = "The viewer reads " + startInQuotes(around.text) + "; the transcript has " +
+               startInQuotes(written) + ", where " + is +
+               (fate.text.empty() ? " is deleted" : " becomes " + inQuotes(fate.text)) +
                ". The file is correct: edit the transcript.";
     }
     if (!text.empty())
@@ -405,7 +403,7 @@ void Remarker::remarkOnGluing(std::size_t code) {
         add(Kind::altered, kGlueCause | line_.words[code].code, ahead, next - ahead + 1,
             std::string(line_.words[code].digits) + " separates " + saidBy(ahead) + " and " +
                 saidBy(next) +
-                " on the screen, but the transcript has nothing for it: put a space between them.");
+                " on the screen but leaves nothing in the transcript: insert a space.");
     }
 }
 

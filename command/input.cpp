@@ -79,7 +79,7 @@ std::string_view Input::nextLine() {
         const std::string_view line = lines_.nextNotEmpty();
         if (!lines_.atEnd() || ended_)
             return line;
-        lines_ = before; // the line, or its end, may go on behind the block
+        lines_ = before; // the line, or its ending, may continue after the block
         readOn();
     }
 }
@@ -105,7 +105,7 @@ void tell(const std::string &shownFile, const Problem &problem, bool json) {
         return;
     try {
         disk::writeAll(STDOUT_FILENO, jsonOf(problem, shownFile), "standard output");
-    } catch (const std::exception &) { // often the problem itself, and told by now
+    } catch (const std::exception &) { // often the problem itself, which has been reported
     }
 }
 

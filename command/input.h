@@ -54,8 +54,8 @@ std::string shownName(const std::string &path, const Options &options);
 /// object to standard output.
 void tell(const std::string &shownFile, const Problem &problem, bool json = false);
 
-/// Does `work`. What it throws is told as a problem of `shownFile`, a text that it may change.
-/// Whether it threw nothing.
+/// Does `work`, and reports what it throws as a problem of `shownFile`, which it may change. False
+/// if it threw.
 bool doAndTell(const std::string &shownFile, const std::function<void()> &work, bool json = false);
 
 } // namespace norvane

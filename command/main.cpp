@@ -58,7 +58,7 @@ int run(const Options &options) {
     return status;
 }
 
-/// The options that the program was called with, those in files among them. Wrong usage is told.
+/// The options of the command line and of option files. Reports wrong usage.
 Options optionsOf(int count, char **arguments) {
     Options options;
     options.exitStatus = 2;
@@ -95,7 +95,7 @@ int main(int argc, char **argv) {
         if (!options.answer.empty())
             return answer(options);
         return options.files.empty() ? options.exitStatus : run(options);
-    } catch (const std::exception &failure) { // of what tells failures
+    } catch (const std::exception &failure) { // while a failure was reported
         std::fprintf(stderr, "norvane-transcript: %s\n", failure.what());
         return kFailed;
     }

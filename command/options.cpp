@@ -63,7 +63,7 @@ constexpr const char *kUsageAfterKinds =
     "Exit status: 0 for success, 1 if a transcript failed or a check found something, 2 for wrong\n"
     "usage or if --check or --explain could not read a file.\n";
 
-/// Beyond the characters, so that getopt_long tells these from one-letter options.
+/// Above all characters, which getopt_long returns for one-letter options.
 namespace Found {
 enum Option {
     form = 256,
@@ -162,7 +162,7 @@ std::string suggestion(std::string_view word, const Words &words, std::string_vi
 
 std::string unknownOption(std::string_view argument) {
     std::vector<std::string_view> names;
-    std::string candidates; // of which it is the beginning
+    std::string candidates; // that begin with it
     std::size_t count = 0;
     for (const option &known : kOptions) {
         if (known.name == nullptr)
@@ -237,7 +237,7 @@ std::string setLimit(std::string_view text, Limits &limits) {
 
 std::string usage() {
     constexpr const char *kIndent = "                                  ";
-    constexpr std::size_t kWidth = 56; // of the column behind the indent
+    constexpr std::size_t kWidth = 56; // of the column after the indent
     std::string text = kUsage;
     std::string line;
     for (const std::string_view name : kFindingNames) {

@@ -11,8 +11,7 @@ namespace norvane {
 
 namespace {
 
-/// While one of these stands, a signal that ends the program waits, so that no half-made file stays
-/// behind.
+/// Defers signals that end the program while it exists, so that no incomplete file is left.
 class SignalsWait {
   public:
     SignalsWait() {

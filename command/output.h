@@ -14,9 +14,9 @@ std::string placeIn(const std::string &folder, const std::string &name);
 /// Throws Problem when something is at `path` already.
 void requireFree(const std::string &path, Links links = Links::trusted);
 
-/// Writes the parts, one behind the other, to the file `path`, whole or not at all, also when a
-/// signal ends the program meanwhile. Throws Problem, and FileFailure: for one, when the file
-/// exists and there is no `force`, or when it is `input`, which may be null.
+/// Writes the parts in sequence to the file `path`, completely or not at all, even if a signal ends
+/// the program meanwhile. Throws Problem or FileFailure: for one, when the file exists and `force`
+/// is false, or when it is `input`, which may be null.
 void writeFile(const std::string &path, std::span<const std::string_view> parts,
                const disk::InputFile *input, bool force,
                disk::Readers readers = disk::Readers::byUmask, Links links = Links::trusted);

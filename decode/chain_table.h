@@ -11,8 +11,8 @@
 /// on what earlier rows left, so none is redundant and none may move.
 namespace norvane {
 
-/// Rows `first` to `last`, numbered from 1, that all put in `with`. The keys are parted by blanks;
-/// the key of a group of one row is the whole text.
+/// Rows `first` to `last`, numbered from 1, that all insert `with`. The keys are separated by
+/// blanks; the key of a group of one row is the whole text.
 struct ChainGroup {
     std::size_t first;
     std::size_t last;

@@ -23,7 +23,7 @@ struct Beginning {
     constexpr Beginning with(unsigned digit) const { return {value * 16 + digit, digits + 1}; }
 };
 
-/// Whether digits are a key of a row behind the deletion of the blanks.
+/// Whether digits are a key of a row after the deletion of the blanks.
 constexpr bool isKey(const Beginning &digits) {
     if (digits.digits == 2)
         return digits.value == kFillerByte;
@@ -37,7 +37,7 @@ struct Trie {
     std::array<Beginning, CrossingKeys::kMatch> beginnings{};
     State count = 1; // the first is the empty one
 
-    /// The state of a beginning, or kMatch when there is none such.
+    /// The state of a beginning, or kMatch when there is none.
     constexpr State stateOf(const Beginning &digits) const {
         for (State state = 0; state < count; ++state) {
             if (beginnings[state] == digits)

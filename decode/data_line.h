@@ -15,14 +15,14 @@ namespace norvane {
 /// before it. Another file is not read.
 bool isSccName(std::string_view name);
 
-/// What the user is told of another file.
+/// The message for another file.
 extern const std::string_view kNotSccMessage;
 
 /// The lines of a file that count, the header first: views of `text`.
 std::vector<std::string_view> keptLines(std::string_view text);
 
 /// A data line: its timecode, "HH:MM:SS:FF" or with ";" before the frames where the frame numbers
-/// drop (SMPTE ST 12), and its hex text, words of four hex digits parted by blanks (CEA-608 byte
+/// drop (SMPTE ST 12), and its hex text, words of four hex digits separated by blanks (CEA-608 byte
 /// pairs with odd parity). Neither is checked.
 struct DataLine {
     std::string_view timecode;
@@ -32,10 +32,10 @@ struct DataLine {
 /// Why a line is no data line.
 enum class Refusal { noTimecode, noTab };
 
-/// What the user is told of a refusal.
+/// The message for a refusal.
 std::string_view messageOf(Refusal refusal);
 
-/// Takes a data line apart: what stands before its first tab, and behind that up to a second one.
+/// Splits a data line: what precedes its first tab, and what follows that up to a second one.
 /// Without two digits and a colon somewhere in it, or without a tab, it is refused.
 std::variant<DataLine, Refusal> takeApart(std::string_view line);
 

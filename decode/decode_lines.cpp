@@ -16,7 +16,7 @@ bool Window1::decodeLines(TextInputStream &stream) {
     ProgressBar1.Refresh(true); // before the first question to the stream, which reads the file
 
     const std::vector<std::string_view> lineArray = keptLines(stream.text());
-    // Room ahead costs nothing where it is not used.
+    // Reserved room costs nothing if unused.
     captionArray2.reserve(lineArray.size(), stream.text().size() / 2);
     timeCodeArray.reserve(timeCodeArray.size() + lineArray.size(), stream.text().size() / 8);
     for (std::size_t i = 1; i < lineArray.size(); ++i) {

@@ -9,7 +9,7 @@ namespace {
 
 // clang-format off
 
-/// Special and extended characters without the blank behind them. Kept: 9131 has its blank.
+/// Special and extended characters without the blank after them. Kept: 9131 has its blank.
 constexpr auto kSpecialCharacters = rowsOf<70>({
     {"92b0 9231 9232 92b3 9234 92b5 92b6 9237 9238 92b9 92ba 923b 92bc 923d 13ab 132c",
      "À    Â    Ç    È    Ê    Ë    ë    Î    Ï    ï    Ô    Ù    ù    Û    \\   ^"},

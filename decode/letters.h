@@ -11,7 +11,7 @@ namespace norvane {
 std::string convertSCC2Letters(std::string_view text);
 
 /// Code words of special and extended characters (CEA-608), four hex digits, to the characters
-/// alone, without the blank that the replacement chain puts behind them. No stage of a decode uses
+/// alone, without the blank that the replacement chain puts after them. No stage of a decode uses
 /// it.
 std::string DoTheRest(std::string_view text);
 

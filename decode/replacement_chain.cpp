@@ -11,8 +11,8 @@ namespace norvane {
 
 namespace {
 
-/// Rows 2 to 480 in one go, where the text is words parted by blanks, since a key of these rows can
-/// then only be a whole word; nothing for other text.
+/// Rows 2 to 480 in one go, where the text is words separated by blanks, since a key of these rows
+/// can then only be a whole word; nothing for other text.
 std::optional<std::string> replaceWholeWords(std::string_view text) {
     std::string result;
     result.reserve(text.size());
@@ -74,7 +74,7 @@ std::size_t nextRow(std::string_view text, std::size_t row) {
 }
 
 // A row whose key does not occur does nothing, so the rows whose keys occur are all there is to
-// run. A row may bring about keys of rows behind it, by what it joins or puts in.
+// run. A row may create keys of later rows, by what it joins or inserts.
 std::string replaceCodeWords(std::string_view hexText) {
     auto words = replaceWholeWords(hexText);
     std::size_t row = words ? kBlanksRow : kFirstWalkedRow - 1;

@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// The first row behind `row` whose key is in `text`: no row between them does anything. One beyond
+/// The first row after `row` whose key is in `text`: no row between them does anything. One beyond
 /// the last row of the walk, 581, when there is none.
 std::size_t nextRow(std::string_view text, std::size_t row);
 

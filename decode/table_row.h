@@ -12,7 +12,7 @@ struct TableRow {
     std::string_view with;
 };
 
-/// The rows of groups, one group after another. A group's keys and replacements are parted by
+/// The rows of groups, one group after another. A group's keys and replacements are separated by
 /// blanks and stand in the same order; where there is one key, both are the whole texts.
 template <std::size_t rows, std::size_t groups>
 consteval std::array<TableRow, rows> rowsOf(const TableRow (&table)[groups]) {

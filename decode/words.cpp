@@ -17,14 +17,14 @@
 // word, so up to the row that deletes the blanks each word meets the first row that has it as its
 // key, whatever its neighbours are. From there on the digits of the words stand side by side, and a
 // key is found wherever its digits are. The automaton of crossing_keys.h reads the digits in their
-// order: while it completes no key, no row behind the blanks matches but where a word as a whole is
+// order: while it completes no key, no row after the blanks matches but where a word as a whole is
 // its key, and that word again becomes what its row says. As soon as a key is completed in any
 // other place, or the line is not made of words, the line is left to replaceCodeWords.
 //
-// What is deleted joins its neighbours, what is replaced parts them. A row behind the blanks does
-// so only after others have looked at the digits, so both must be harmless: its word among its
+// What is deleted joins its neighbours, what is replaced separates them. A row after the blanks
+// does so only after others have looked at the digits, so both must be harmless: its word among its
 // neighbours, and the neighbours without it. Three kinds of words are left to the rows:
-// - with a character whose blank is deleted, since every pair behind it is cut elsewhere;
+// - with a character whose blank is deleted, since every pair after it is cut elsewhere;
 // - with a deleted late key whose end begins another key, since the neighbours would have to be
 //   read twice;
 // - with a late bar, which others would fold.
@@ -64,7 +64,7 @@ static_assert(holdsForWalkedRows([](std::size_t row, std::string_view key, std::
 static_assert(holdsForWalkedRows([](std::size_t row, std::string_view key, std::string_view with) {
                   return !isCodeWord(key) || !isBars(with) || kRowsOfCode.first[codeOf(key)] < row;
               }),
-              "no bar comes of a word by itself");
+              "a word by itself leaves no bar");
 static_assert(holdsForWalkedRows([](std::size_t, std::string_view, std::string_view with) {
                   return std::none_of(with.begin(), with.end(), isHexDigit);
               }),
@@ -107,7 +107,7 @@ bool matches(State state) {
 struct WordEffect {
     Piece piece{};
     bool alone = false; // the piece is all that becomes of it, whatever its neighbours are
-    bool late = false;  // the row comes behind the deletion of the blanks
+    bool late = false;  // the row follows the deletion of the blanks
     State behind = CrossingKeys::kNothing; // what the next digits find before them until it goes
 };
 
@@ -256,12 +256,12 @@ class WordWriter {
     }
 
     const CrossingKeys &keys_ = kCrossingKeys;
-    State state_ = CrossingKeys::kNothing; // behind the digits that stay, so far
+    State state_ = CrossingKeys::kNothing; // after the digits that remain, so far
     char *out_;
 };
 
 /// Writes the caption of `hexText` at `out`, which has room for as many bytes; gives its end, or
-/// nullptr when the words cannot be taken one by one. `see` is told the end of each word's piece.
+/// nullptr when the words cannot be taken one by one. `see` gets the end of each word's piece.
 template <class See>
 char *putWords(char *out, std::string_view hexText, See see) {
     constexpr std::size_t kWordAndBlank = 5;

@@ -59,7 +59,7 @@ void Window1::importSCCFolder() {
         fileName = sourceItem->Name();
         const Ref<TextInputStream> sourceStream = sourceItem->OpenAsTextFile();
         if (sourceStream && !decodeLines(*sourceStream))
-            return; // kept: the bad file stays, and those behind it are not reached
+            return; // kept: the bad file stays, and those after it are not reached
         DoTranscTimecodeFile();
         timeCodeArray.clear();
         sourceStream->Close();

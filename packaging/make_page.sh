@@ -7,4 +7,4 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 configure web $page_packages
 build web norvane_page
 cp "$root/build/web/web/norvane.html" "$root/build/norvane.html"
-echo "The page stands in build/norvane.html, $(stat -c %s "$root/build/norvane.html") bytes. Open it in a browser."
+echo "The page is build/norvane.html, $(stat -c %s "$root/build/norvane.html") bytes. Open it in a browser."

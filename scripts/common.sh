@@ -38,7 +38,7 @@ can_build() {
     local folder=$root/build/$1
     while [ ! -e "$folder" ]; do folder=$(dirname "$folder"); done
     [ -w "$folder" ] && return
-    echo "Norvane cannot be built here, since $(id -un) may not write in $folder; a copy of the sources can." >&2
+    echo "Norvane cannot be built here, since $(id -un) may not write to $folder: build a copy of the sources." >&2
     return 1
 }
 
@@ -47,13 +47,13 @@ can_build() {
 configure() {
     local complaint
     complaint=$(cmake -S "$root" --preset "$1" 2>&1) && return
-    need "${@:2}" || { printf 'The build itself said:\n%s\n' "$complaint" >&2; return 1; }
+    need "${@:2}" || { printf 'The build reported:\n%s\n' "$complaint" >&2; return 1; }
     quietly cmake -S "$root" --fresh --preset "$1"
 }
 
 # build PRESET [TARGET...]
 build() {
     local command=(cmake --build "$root/build/$1" ${2+--target "${@:2}"})
-    "${command[@]}" -- -n | grep -q 'no work to do' || echo 'Compiling Norvane; the first time takes some minutes.' >&2
+    "${command[@]}" -- -n | grep -q 'no work to do' || echo 'Compiling Norvane; the first build takes a few minutes.' >&2
     quietly "${command[@]}"
 }

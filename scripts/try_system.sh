@@ -6,7 +6,7 @@ set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 . "$root/scripts/common.sh"
 
-[ $# -gt 0 ] && [ "$(id -u)" -eq 0 ] || { echo 'As root: try_system.sh SUITE [FOLDER]' >&2; exit 2; }
+[ $# -gt 0 ] && [ "$(id -u)" -eq 0 ] || { echo 'Usage, as root: try_system.sh SUITE [FOLDER]' >&2; exit 2; }
 suite=$1
 need debootstrap
 if [ $# -gt 1 ]; then

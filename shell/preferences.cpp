@@ -15,7 +15,7 @@ void App::SavePrefs() {
     const Window1 &window = Window1::the();
     if (prefsUnread_) // what the window shows then are not the user's settings
         return;
-    // Kept: where there is no folder, this fails, which tells the user.
+    // Kept: without a folder, this fails with a message.
     const Ref<FolderItem> file = SpecialFolder::Preferences()->Child(kFile);
     if (!file)
         return;
@@ -32,7 +32,7 @@ void App::SavePrefs() {
         stream->WriteLine(window.TextField2.Text.get());
         writeSwitch(window.CheckBox1.Value);
     }
-    stream->Close(); // kept outside the test: a file that cannot be created is told to the user
+    stream->Close(); // kept outside the test: a file that cannot be created is reported to the user
 }
 
 void App::GetPrefs() {

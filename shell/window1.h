@@ -86,7 +86,7 @@ class Window1 : public Window {
 
     // The decode of one file that the user picks (decode/import_scc.cpp), of all files of a folder,
     // once (folders/batch_run.cpp), and of the watched folder (folders/hot_folder_cycle.cpp). Each
-    // tells the user what must be told and throws what the framework throws.
+    // reports to the user and throws what the framework throws.
     void importSCC();
     void importSCCFolderSingle();
     void importSCCFolder();

@@ -82,7 +82,7 @@ void Window1::BevelButton8_Action() {
         "settings and to activate this feature.");
 }
 
-/// What screen readers are told of more reliably than of the arrow's direction.
+/// Screen readers announce this more reliably than the arrow's direction.
 void Window1::tellFolding() {
     PopupArrow1.hint = PopupArrow1.Facing == PopupArrow::kRight
                            ? "Collapsed: shows the settings below when pressed"

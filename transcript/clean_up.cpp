@@ -53,7 +53,7 @@ class Cutter {
     std::size_t read_; // how much of the text is done
 };
 
-/// How many rows of the accent pairs take a hyphen from behind the character that `text` ends in.
+/// How many rows of the accent pairs remove a hyphen after the character that `text` ends in.
 std::size_t hyphensTaken(std::string_view text) {
     if (text.empty() || isAscii(text.substr(text.size() - 1)))
         return 0;
@@ -105,7 +105,7 @@ void cleanTranscript(std::string &transcriptText, std::size_t start) {
             done = std::min(text.find_first_not_of('-', at), text.size());
             cutter.cut(at, std::min(hyphensTaken(text.substr(0, at)), done - at));
         } else if (text[at] == '\\') {
-            // Kept: a backslash and the letter t, and no tab, so the blank behind a real tab stays.
+            // Kept: a backslash and the letter t, and no tab, so the blank after a real tab stays.
             done = at + 1;
             if (at > 0 && equal(text.substr(at - 1, kTabPass.size()), kTabPass)) {
                 transcriptText[at + 1] = kTabPass[2]; // it looks for both cases and puts in one

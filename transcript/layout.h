@@ -39,7 +39,7 @@ std::string composeTranscript(Form form, TextArray &captions, TextArray &timecod
 /// The first line of a transcript; an empty one stands between it and the body.
 std::string headingOf(const std::string &name);
 
-/// What stands in a transcript's file, one behind the other; views of both texts.
+/// What stands in a transcript's file, in sequence; views of both texts.
 using TranscriptPieces = std::array<std::string_view, 5>;
 TranscriptPieces piecesOf(std::string_view heading, std::string_view body);
 

@@ -22,7 +22,7 @@ struct Text {
     bool isProblem = false; // then `bytes` is {"text", "help", "line"}
 };
 
-/// Bytes of a film; what there is to show has some twenty times as many.
+/// Bytes of a film; its page data has some twenty times as many.
 constexpr std::size_t kLargestShown = std::size_t{4} << 20U;
 
 constexpr std::string_view kOtherWay = "paste its text";

@@ -8,8 +8,7 @@
 #include <vector>
 
 /// What a viewer sees of a film, and when: a plain model of a line-21 decoder after CEA-608-E and
-/// 47 CFR 79.101. It is no part of the transcript's way: what both say differently is what a
-/// report tells.
+/// 47 CFR 79.101. It is independent of the transcript: reports show where the two differ.
 namespace norvane {
 
 enum class CaptionMode : std::uint8_t { popOn, rollUp, paintOn };
@@ -67,7 +66,7 @@ struct CaptionRow {
 ///   changes one of its rows;
 /// - roll-up: one a row, from its first printing character until it is gone; rolling on and moving
 ///   the base row leave it as it is, and its row is that in which it began;
-/// - paint-on: one a painting, from its first character behind RDC or on an empty screen until its
+/// - paint-on: one a painting, from its first character after RDC or on an empty screen until its
 ///   last row is gone. A row that another painting goes on with becomes that one's; a painting
 ///   that changes a pop-on caption takes over all of its rows. Each row stands as it was when it
 ///   went.

@@ -18,7 +18,7 @@ class CaptionDecoder {
     /// Takes a word. Of a code that is sent twice it must be the first alone.
     void take(const CodeMeaning &meaning, const Moment &moment);
 
-    /// The film is over: tells what is still on the screen, and what was never shown.
+    /// The film is over: passes on what is still on the screen, and what was never shown.
     void finish();
 
   private:

@@ -15,8 +15,8 @@ class FilmDecoder {
     explicit FilmDecoder(CaptionSink sink);
 
     /// Takes the next line. A word's frame is that of the line's timecode and its place in the
-    /// line; a line whose timecode cannot be read goes on behind the line before. Lines that were
-    /// refused and words of text mode are passed over.
+    /// line; a line whose timecode cannot be read continues the previous line. Lines that were
+    /// refused and words of text mode are skipped.
     void take(const SccLine &line);
 
     /// The film is over.

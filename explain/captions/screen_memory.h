@@ -44,7 +44,7 @@ class ScreenMemory {
     void clearRow(int row);
     void clear();
 
-    /// Moves rows by `distance` rows down (up when negative); the rows behind the moved ones are
+    /// Moves rows by `distance` rows down (up when negative); the rows that they leave are
     /// empty then. All of both places must lie on the screen.
     void moveRows(int first, int last, int distance);
 

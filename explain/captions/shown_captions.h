@@ -17,7 +17,7 @@ class ShownCaptions {
         : service_(service), lastNumber_(lastNumber), sink_(sink) {}
 
     /// To be called before the displayed memory changes at a printing character. `mode` is what
-    /// changes it; `printing` is the row's set of printing characters behind the change.
+    /// changes it; `printing` is the row's set of printing characters after the change.
     void beforeChange(const ScreenMemory &screen, int row, ColumnSet printing, CaptionMode mode,
                       const Moment &moment);
 

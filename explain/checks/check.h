@@ -16,22 +16,22 @@ struct CheckRules {
 };
 
 struct CheckResult {
-    std::vector<Finding> findings{};                        // in the order of their lines
-    std::array<std::size_t, kFindingKinds.size()> counts{}; // by kind, those told as one counted
+    std::vector<Finding> findings{}; // in the order of their lines
+    std::array<std::size_t, kFindingKinds.size()>
+        counts{}; // by kind, those reported as one counted singly
     FilmSummary summary{};
 };
 
-/// Checks a film as it is read. The memory does not grow with it but for what is told.
+/// Checks a film as it is read. Memory grows only with what is reported.
 class Check {
   public:
-    /// `also` takes the captions, as FilmDecoder tells them, when somebody else wants them.
+    /// `also` receives the captions as well, in the order of FilmDecoder.
     explicit Check(const CheckRules &rules, CaptionSink also = {});
     Check(const Check &) = delete;
     Check &operator=(const Check &) = delete;
 
-    /// Takes the beginning of the text, of which the first two lines are enough, and its first line
-    /// that is not empty. False when the file is of another format, so that nothing else needs a
-    /// look.
+    /// Takes the beginning of the text, at least its first two lines, and its first line that is
+    /// not empty. False when the file is in another format, so that nothing else needs a check.
     bool begin(std::string_view beginning, std::string_view header, std::size_t headerNumber);
 
     void take(const SccLine &line);
@@ -52,7 +52,7 @@ class Check {
     std::size_t headerNumber_ = 1;
     std::size_t lines_ = 0;
     std::optional<bool> dropFrame_{};
-    bool needsCaptions_ = true; // nothing told already says why there are none
+    bool needsCaptions_ = true; // no finding explains yet why there are none
 };
 
 /// Checks a whole file. Any text is taken. For `also` see Check.

@@ -27,7 +27,7 @@ class CaptionCheck {
   public:
     explicit CaptionCheck(const Limits &limits) : limits_(limits) {}
 
-    /// Takes the captions as FilmDecoder tells them. `dropFrame` is how the film counts.
+    /// Takes the captions in the order of FilmDecoder. `dropFrame` is how the film counts.
     void look(const Caption &caption, bool dropFrame, Findings &findings);
 
     const FilmSummary &summary() const { return summary_; }
@@ -41,12 +41,12 @@ class CaptionCheck {
 
     Limits limits_;
     FilmSummary summary_{};
-    std::bitset<kServiceNames.size()> stays_{}; // whose last caption nothing takes away
+    std::bitset<kServiceNames.size()> stays_{}; // whose last caption is never removed
     std::array<std::optional<long>, kServiceNames.size()> ends_{}; // of the captions before
 };
 
-/// What a caption's viewer has to read a second, at 29.97 frames; nothing where it stays, or goes
-/// at once.
+/// Characters that a viewer has to read per second, at 29.97 frames; nothing for a caption that
+/// stays or is removed at once.
 std::optional<double> readingRateOf(const Caption &caption);
 
 } // namespace norvane

@@ -25,7 +25,7 @@ std::string digitsOf(const SccWord &word) {
     return std::string(word.digits);
 }
 
-/// A finding on words of a line, of which there is one at least: `text` comes behind them.
+/// A finding on words of a line, at least one, listed between `before` and `behind`.
 template <class TextOf>
 Finding findingOnWords(const SccLine &line, const std::vector<const SccWord *> &words,
                        const std::string &before, TextOf textOf, const std::string &behind) {

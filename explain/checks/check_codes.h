@@ -10,8 +10,7 @@ class CodeCheck {
   public:
     void look(const SccLine &line, Findings &findings);
 
-    /// To be called behind the last line: only now is it known what is usual in the file, and with
-    /// it what is unusual.
+    /// To be called after the last line: only then is it known what is usual in the file.
     void finish(Findings &findings);
 
   private:

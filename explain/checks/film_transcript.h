@@ -9,8 +9,8 @@
 
 namespace norvane {
 
-/// The body of a film's transcript, made line after line. What ends it is told with the line and
-/// the cure.
+/// The body of a film's transcript, made line by line. What ends it is thrown with the line and
+/// what to do.
 class FilmTranscript {
   public:
     /// `beginning` is the film's first two lines or more; `room` an empty text, in whose room the
@@ -28,11 +28,11 @@ class FilmTranscript {
     TranscriptBody body_;
     Clock clock_;
     std::string foreign_;
-    std::string caption_{}; // kept for its room
+    std::string caption_{}; // reused, so that it keeps its memory
 };
 
-/// Throws Problem when `name`, without its folder, is that of no SCC file. `otherWay` says how the
-/// text of one comes in under any name.
+/// Throws Problem unless `name`, without its folder, is that of an SCC file. `otherWay` says how to
+/// pass in a text under any name.
 void requireSccName(std::string_view name, std::string_view otherWay);
 
 } // namespace norvane

@@ -43,7 +43,7 @@ void Findings::tellOnce(FindingKind kind, const std::string &text) {
 std::vector<Finding> Findings::take() {
     std::stable_sort(list_.begin(), list_.end(),
                      [](const Finding &a, const Finding &b) { return a.line < b.line; });
-    for (Finding &finding : list_) // captions are told later than their lines
+    for (Finding &finding : list_) // captions are reported later than their lines
         std::sort(finding.lines.begin() + 1, finding.lines.end());
     return std::move(list_);
 }

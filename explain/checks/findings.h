@@ -20,8 +20,8 @@ struct Finding {
     std::string timecode{};             // of the line; empty when it has none
     std::optional<std::size_t> frame{}; // in the line, of the first word that it concerns
     std::vector<std::string> words{};   // that it concerns, the first few
-    std::size_t count = 1;              // how often, where findings of one cause are told as one
-    std::vector<std::size_t> lines{};   // the first of these lines, `line` ahead
+    std::size_t count = 1;              // how often, where findings with one cause are merged
+    std::vector<std::size_t> lines{};   // the first of these lines, beginning with `line`
 };
 
 inline Severity severityOf(const Finding &finding) {
@@ -39,8 +39,8 @@ class Findings {
 
     bool wants(FindingKind kind) const { return wanted_.test(static_cast<std::size_t>(kind)); }
 
-    /// Adds a finding on a line. Those of a kind that have the same cause come about in the same
-    /// way. `make` gives the finding, its line and kind aside, where it is told.
+    /// Adds a finding on a line. Findings of a kind with the same `cause` are merged if told by
+    /// cause. `make` gives a finding that is not merged, without line and kind.
     template <class Make>
     void add(std::size_t line, FindingKind kind, std::uint32_t cause, const Make &make) {
         if (!wants(kind) || countedAlready(line, kind, cause))
@@ -52,10 +52,10 @@ class Findings {
         list_.push_back(std::move(finding));
     }
 
-    /// Takes back all of a kind. Afterwards, only kinds that were never added may be.
+    /// Removes all of a kind. Afterwards, only kinds that were never added may be added.
     void takeBack(FindingKind kind);
 
-    /// Leaves one of a kind, with another text. The same holds afterwards.
+    /// Leaves one of a kind, with another text. Afterwards, the same holds as for takeBack.
     void tellOnce(FindingKind kind, const std::string &text);
 
     /// In the order of their lines; those on one line as they were added. To be called once.

@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// What a house asks of captions beyond the standard. Nothing is asked where nothing is set.
+/// House rules for captions beyond the standard: only what is set is checked.
 struct Limits {
     std::optional<double> readingRate{}; // at most, characters a second
     std::optional<double> shortest{};    // at least, frames on the screen
@@ -14,7 +14,7 @@ struct Limits {
     std::optional<double> gap{};         // at least, frames from the end of one to the next
     std::optional<double> rowLength{};   // at most, characters
     std::optional<double> rows{};        // at most at once
-    std::optional<double> upperRows{};   // at most, rows 5 to 11 of a caption
+    std::optional<double> upperRows{};   // at most, of rows 5 to 11, in a caption
 
     bool isAny() const { return *this != Limits(); }
     bool operator==(const Limits &) const = default;

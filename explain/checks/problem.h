@@ -8,8 +8,7 @@
 
 namespace norvane {
 
-/// Something that ended the work on one file, for the user. what() tells it, in the program's own
-/// words where it has some.
+/// Something that ended the work on one file, for the user: what() is the message.
 class Problem : public RuntimeException {
   public:
     explicit Problem(const std::string &what, std::string cure = "", std::size_t number = 0)

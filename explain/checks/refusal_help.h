@@ -8,12 +8,11 @@
 
 namespace norvane {
 
-/// What a text, of which the first two lines are enough, is when it is no SCC file at all but
-/// UTF-16, subtitles of another format, or nothing but NULs, and what to do; empty when it may be
-/// one.
+/// What a text (the first two lines are enough) is instead of an SCC file, UTF-16, subtitles in
+/// another format, or only NULs, and what to do; empty when it may be an SCC file.
 std::string foreignFormat(std::string_view text);
 
-/// What stands in a line that was refused, and what to do, in a file of no foreign format.
+/// What is wrong with a line that was refused, in a file of no foreign format, and what to do.
 std::string refusalHelp(std::string_view line);
 
 /// What to do about a data line whose entry failed.

@@ -38,12 +38,12 @@ std::vector<std::string> Explainer::textsOf(std::size_t line) const {
                                      [line](const Finding &one) { return one.line < line; });
     for (; next != findings_.end() && next->line == line; ++next) {
         if (next->kind != FindingKind::digits && next->kind != FindingKind::altered)
-            texts.push_back(next->text); // those are told by the remarks on the entry
+            texts.push_back(next->text); // the others are among the remarks on the entry
     }
     return texts;
 }
 
-/// Where most of a file has wrong parity, one line tells it for all.
+/// Where most of a file has wrong parity, one finding stands for all lines.
 void Explainer::adviseOnParity() {
     const SccLine &line = *explanation_.line;
     const auto isWrong = [](const SccWord &word) { return word.isCode && !word.parity; };

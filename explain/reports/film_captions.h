@@ -11,11 +11,11 @@ class FilmCaptions {
   public:
     explicit FilmCaptions(std::string_view film);
 
-    /// Of what a FilmDecoder told of a film.
+    /// From the captions that a FilmDecoder passed on.
     FilmCaptions(std::vector<Caption> list, bool dropFrame);
 
-    /// Those that were shown, in the order of their starts: caption n stands at n - 1. Behind them
-    /// those that nobody saw, with the number 0.
+    /// Those that were shown, in the order of their starts: caption n stands at n - 1. After them
+    /// those never shown, with the number 0.
     const std::vector<Caption> &list() const { return list_; }
 
     /// How the film's timecodes count.

@@ -20,8 +20,8 @@ inline void endPart(TextReport &report) {
 }
 inline void endPart(JsonWriter & /*json*/) {}
 
-/// Adds to `report` what there is to explain of a film, any text. `file` is what the user called
-/// the film. Throws Problem when none of its lines was chosen.
+/// Adds the explanations of a film, any text, to `report`. `file` is what the user called the film.
+/// Throws Problem when none of its lines was chosen.
 template <class Report>
 void explainFilm(std::string_view text, std::string_view file, const ExplanationOptions &options,
                  Report &report) {

@@ -18,7 +18,7 @@ namespace norvane {
 
 namespace {
 
-constexpr std::string_view kAdvice = "advice"; // what an explanation advises and no check tells
+constexpr std::string_view kAdvice = "advice"; // advice that no finding gives
 
 /// What keeps a film from having a transcript.
 std::optional<Problem> refusalOf(std::string_view text, Clock clock) {

@@ -6,8 +6,8 @@
 
 namespace norvane {
 
-/// The bytes of a report as it grows. With a sink they leave in large blocks, also amid a line:
-/// what is told of one line may be many times its size.
+/// The bytes of a report as it grows. With a sink they leave in large blocks, even in mid-line:
+/// the report on one line may be many times its size.
 class ReportBytes {
   public:
     using Sink = std::function<void(std::string_view)>;

@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
-/// The codes of CEA-608: what a line-21 decoder makes of a pair of bytes, whatever the transcript
-/// makes of it.
+/// The codes of CEA-608: what a line-21 decoder makes of a pair of bytes, independent of the
+/// transcript.
 namespace norvane {
 
 enum class CodeKind : std::uint8_t {
-    filler,       // nothing, twice
+    filler,       // two null bytes
     text,         // one or two characters
     special,      // a character that takes a pair of its own
     extended,     // the same, in the place of the character before it
@@ -21,8 +21,8 @@ enum class CodeKind : std::uint8_t {
     tabOffset,    // one to three columns to the right
     control,      // of captions as a whole, such as RCL
     characterSet, // another one
-    otherData,    // field 2: data beside the captions
-    none,         // CEA-608 knows no such pair
+    otherData,    // field 2: extended data services
+    none,         // undefined in CEA-608
 };
 
 /// The control codes, without parity bits and as of the first channel of field 1.
@@ -35,7 +35,7 @@ inline constexpr std::uint16_t kDer = 0x1424; // delete to end of row
 inline constexpr std::uint16_t kRu2 = 0x1425; // roll up 2 rows
 inline constexpr std::uint16_t kRu3 = 0x1426;
 inline constexpr std::uint16_t kRu4 = 0x1427;
-inline constexpr std::uint16_t kFon = 0x1428; // flash on; parts like a mid-row code
+inline constexpr std::uint16_t kFon = 0x1428; // flash on; takes a column like a mid-row code
 inline constexpr std::uint16_t kRdc = 0x1429; // resume direct captioning: paint-on
 inline constexpr std::uint16_t kTr = 0x142A;  // text restart
 inline constexpr std::uint16_t kRtd = 0x142B; // resume text display

@@ -7,7 +7,7 @@ namespace norvane {
 /// The first line of an SCC file, by which programs know the format.
 inline constexpr std::string_view kSccHeader = "Scenarist_SCC V1.0";
 
-/// What some editors put ahead of a text in UTF-8.
+/// What some editors put before a text in UTF-8.
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 constexpr std::string_view withoutByteOrderMark(std::string_view text) {

@@ -99,7 +99,7 @@ void LineTaker::readWords() {
 
 /// Kept apart by kind: characters go where the last code went, and other words go nowhere.
 void LineTaker::readCode(SccWord &word) {
-    constexpr unsigned kEndOfData = 0x0F; // the first byte behind which captions go on
+    constexpr unsigned kEndOfData = 0x0F; // the first byte of the pair that ends extended data
     const CodeMeaning &meaning = meaningOf(word.code);
     word.meaning = &meaning;
     word.parity = meaning.withParity == word.code;

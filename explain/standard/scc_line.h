@@ -29,7 +29,7 @@ constexpr std::size_t channelOf(Service service) {
     return (static_cast<std::size_t>(service) - 1) % 4;
 }
 
-/// The mode of a service behind a word.
+/// The mode of a service after a word.
 enum class Mode : std::uint8_t { unknown, popOn, rollUp2, rollUp3, rollUp4, paintOn, text };
 inline constexpr auto kModeNames =
     std::to_array<std::string_view>({"", "pop-on", "roll-up of 2 rows", "roll-up of 3 rows",
@@ -45,21 +45,21 @@ constexpr int rowsOf(Mode mode) {
                : 0;
 }
 
-/// A word of a line's hex text: what stands between blanks. It is sent in a frame of its own, the
-/// n-th of a line n frames behind the line's timecode, from 0.
+/// A word of a line's hex text, between blanks. It is sent in a frame of its own, the
+/// n-th of a line n frames after the line's timecode, from 0.
 struct SccWord {
     std::string_view digits{};
     const CodeMeaning *meaning = &kNoMeaning; // never null
     std::uint16_t code = 0;          // its value, as sent; 0 when it is not four hex digits
     bool isCode = false;             // it is four hex digits
     bool parity = false;             // as CEA-608 asks for
-    bool repeats = false;            // the second of a code that is sent twice: a decoder passes
-                                     // over it
+    bool repeats = false;            // the second of a code that is sent twice, which a decoder
+                                     // ignores
     Service service = Service::none; // by itself and the words before it
-    Mode mode = Mode::unknown;       // of that service behind it
+    Mode mode = Mode::unknown;       // of that service after it
 };
 
-/// A kept line of a file behind its header.
+/// A kept line of a file after its header.
 struct SccLine {
     std::size_t number = 0; // of all lines of the file, from 1
     std::size_t entry = 0;  // of all data lines, from 1
@@ -83,7 +83,7 @@ struct SccLine {
 /// code says otherwise.
 class LineTaker {
   public:
-    /// Takes the next line that is not empty behind the header, which is line `number` of the file.
+    /// Takes the next line that is not empty after the header, which is line `number` of the file.
     /// The result holds until the next call and as long as `text` does. A line is empty where a
     /// file ends.
     const SccLine &take(std::string_view text, std::size_t number);
@@ -102,7 +102,7 @@ class LineTaker {
     std::size_t channel_ = 0;
     bool isOtherData_ = false;   // characters of field 2 are of no caption
     std::uint16_t lastCode_ = 0; // of the word before, when a repetition of it would be one
-    long nextFrame_ = -1;        // behind the line before
+    long nextFrame_ = -1;        // after the previous line
 };
 
 /// The same of a whole text.
@@ -111,7 +111,7 @@ class SccReader {
     /// `text` must outlive the reader and the lines.
     explicit SccReader(std::string_view text);
 
-    /// The first line that is not empty, which nobody reads; empty when there is none.
+    /// The first line that is not empty, which is not read; empty when there is none.
     std::string_view header() const { return header_; }
     std::size_t headerNumber() const { return headerNumber_; } // at least 1
 

@@ -7,7 +7,7 @@
 
 namespace norvane {
 
-/// Words for the user, of which there may be many: the first four, and how many more there are.
+/// A list for the user that may be long: the first four words, and how many more there are.
 class ShortList {
   public:
     void add(std::string word);
@@ -16,7 +16,7 @@ class ShortList {
     bool empty() const { return count_ == 0; }
     std::size_t count() const { return count_; }
 
-    /// Parted by commas.
+    /// Separated by commas.
     std::string text() const;
 
   private:

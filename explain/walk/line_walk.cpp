@@ -12,7 +12,7 @@
 // A word's fate is what of the entry comes from it. Nearly all lines are decoded word by word, and
 // then the piece of each word is at hand (plain_words.h). The others go the way of the chain on a
 // text whose bytes know where they come from, and each row that takes digits of several words, or
-// begins within a byte, is kept as a crossing. Rows whose keys do not occur are passed over, as in
+// begins within a byte, is kept as a crossing. Rows whose keys do not occur are skipped, as in
 // the decode; that this is the way of all rows is what the comparison with the transcript's own
 // entry holds.
 
@@ -85,7 +85,7 @@ void LineWalk::trace() {
 }
 
 /// The rows up to the deletion of the blanks, where the line is made of words: their keys can only
-/// be whole words then, and no crossing comes of them.
+/// be whole words then, and they make no crossing.
 bool LineWalk::replaceWholeWords(TracedText &text) const {
     const auto isCode = [](const SccWord &word) { return word.isCode; };
     if (!std::all_of(line_->words.begin(), line_->words.end(), isCode))

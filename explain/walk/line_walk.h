@@ -9,7 +9,7 @@
 namespace norvane {
 
 /// Digits that a row of the chain took from several words, or from the middle of one: a key that
-/// nobody sent.
+/// was never sent as a word.
 struct Crossing {
     static constexpr std::size_t kMost = 4;        // digits of a key
     std::uint16_t row = 0;                         // of the chain
@@ -35,8 +35,8 @@ enum class WordClass : std::uint8_t {
     unknown,
     nothing, // a filler, which nobody sees
     same,    // the characters that a viewer reads
-    blank,   // a blank, where something parts what a viewer reads
-    deleted, // nothing, where something parts it
+    blank,   // a blank, where something separates what a viewer reads
+    deleted, // nothing, where something separates it
     other,
 };
 

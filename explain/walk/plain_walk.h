@@ -3,8 +3,8 @@
 #include "explain/walk/traced_text.h"
 
 /// The road from a line's hex text to its entry, as the tables have it: row after row and pass
-/// after pass on the whole text. Slow, but it can tell what became of each digit, and it is what
-/// the fast decode is compared with. Any text is taken.
+/// after pass on the whole text. Slow, but it keeps track of each digit, and it is the reference
+/// for the fast decode. Any text is taken.
 namespace norvane::plain {
 
 /// Rows 2 to 581 of the replacement chain.

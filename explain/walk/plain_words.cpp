@@ -4,7 +4,7 @@
 #include "framework/text/find_any.h"
 
 // The clean-up of an entry folds blanks: of eight that stand together it leaves one, which comes
-// from them all. What else it does, to bars, hyphens behind accents and two literal texts, is left
+// from them all. What else it does, to bars, hyphens after accents and two literal texts, is left
 // to the walk, since its marks are rare.
 
 namespace norvane {

@@ -11,7 +11,7 @@ SaidLine::SaidLine(const SccLine &line) {
         const std::size_t start = line.placeOf(word);
         const std::size_t end = start + word.digits.size();
         if (word.repeats)
-            continue; // a decoder passes over it
+            continue; // a decoder ignores it
         const bool isBackspace = word.meaning->code == code::kBs;
         if (isBackspace && !characters_.empty() && !characters_.back().text.empty()) {
             characters_.pop_back();

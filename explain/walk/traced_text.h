@@ -49,8 +49,8 @@ class TracedText {
     /// included.
     bool comesFrom(std::size_t byte, std::size_t start, std::size_t end) const;
 
-    /// The same as ReplaceAll, ReplaceAllB and Replace. `with` is no longer than `find`. `see` is
-    /// told of each piece, its first byte and its size, before it gives way.
+    /// The same as ReplaceAll, ReplaceAllB and Replace. `with` is no longer than `find`. `see` gets
+    /// the first byte and the size of each piece before it is replaced.
     template <class See>
     void replaceAll(std::string_view find, std::string_view with, See see) {
         Edit edit(*this);

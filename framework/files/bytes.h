@@ -17,7 +17,7 @@ class Bytes {
     std::string_view view() const { return {data_.get(), size_}; }
     std::size_t size() const { return size_; }
 
-    /// The room that is left behind what is filled, and its size.
+    /// The room after what is filled, and its size.
     char *rest() { return data_.get() + size_; }
     std::size_t restSize() const { return room_ - size_; }
 

@@ -57,7 +57,7 @@ void copyFile(const std::string &source, const std::string &target, Lasting last
         }
         copy.finish(lasting);
     } catch (const IOException &) {
-        // The outcome of a copy is not told; what stood at the target still stands.
+        // The outcome of a copy is not reported; the target is as it was.
         return;
     }
 }

@@ -19,10 +19,10 @@ namespace norvane::disk {
 enum class Kind { missing, file, folder, foreignLink, other };
 
 /// What stands at `path`; missing also when a folder on the way is. Throws FileFailure when that
-/// cannot be told, as with a failing disk.
+/// cannot be determined, as with a failing disk.
 Kind kindOf(const std::string &path, Links links = Links::trusted);
 
-/// The same, but `unknown` when it cannot be told.
+/// The same, but `unknown` when it cannot be determined.
 Kind kindOf(const std::string &path, Kind unknown, Links links = Links::trusted);
 
 /// The folder that holds what is at `path`, which has no separator at its end; the root is its own.
@@ -35,16 +35,16 @@ std::vector<std::string> namesIn(const std::string &path, Links links = Links::t
 /// Appends the names in an open folder, as the system has them; false when reading it failed.
 bool readNames(Handle folder, std::vector<std::string> &names);
 
-/// Makes a folder; its parent must exist. Whether it worked is not told.
+/// Makes a folder; its parent must exist. Whether it worked is not reported.
 void makeFolder(const std::string &path, Links links = Links::trusted);
 
-/// Makes a folder and those above it that are missing. Whether it worked is not told.
+/// Makes a folder and those above it that are missing. Whether it worked is not reported.
 void makeFolders(const std::string &path, Links links = Links::trusted);
 
 class InputFile;
 
 /// Removes a file, or a link to it, as long as `read` is still what stands there. Whether it worked
-/// is not told.
+/// is not reported.
 void remove(const std::string &path, const InputFile &read);
 
 /// A lock, held for as long as a copy of this lives; null where there is none.
@@ -62,7 +62,7 @@ std::string preferencesFolder();
 /// The per-user folder for what can be made anew, as preferencesFolder.
 std::string cacheFolder();
 
-/// The folder of the running program, not ending in a separator; empty when that cannot be told.
+/// The folder of the running program, not ending in a separator; empty when it is unknown.
 std::string programFolder();
 
 /// A file open for reading, up to the size that it had then.
@@ -169,8 +169,8 @@ class NewFile : public TextSink {
     bool isNew_ = false;
 };
 
-/// Copies a regular file with its permission bits, whole or not at all; passes over anything else.
-/// A copy that is there already is left alone. Whether it worked is not told.
+/// Copies a regular file with its permission bits, whole or not at all; ignores anything else.
+/// A copy that is there already is left alone. Whether it worked is not reported.
 void copyFile(const std::string &source, const std::string &target, Lasting lasting);
 
 /// Lets a write beyond the limit of a file's size fail like any other; without this call, it ends

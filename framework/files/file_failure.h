@@ -25,7 +25,7 @@ class FileFailure : public IOException {
     /// The system's error; 0 for what is no regular file.
     int error() const { return error_; }
 
-    /// The sentence behind the file's name.
+    /// The sentence that follows the name of the file.
     const std::string &reason() const { return reason_; }
 
   private:

@@ -36,10 +36,10 @@ class FolderItem {
     std::string AbsolutePath() const;
 
     /// False when there is nothing, or no folder that could hold it, or another user's link where
-    /// a folder was named. Throws IOException when that cannot be told.
+    /// a folder was named. Throws IOException when that cannot be determined.
     bool Exists() const;
 
-    /// True for a folder. Throws IOException when that cannot be told.
+    /// True for a folder. Throws IOException when that cannot be determined.
     bool Directory() const;
 
     /// How many items the folder holds, hidden ones included; 0 when it is none or may not
@@ -52,19 +52,19 @@ class FolderItem {
 
     /// What is named `name` in this folder, existing or not. Nil when this is no folder, for a name
     /// that is empty, "." or ".." or has a separator or a NUL in it, and for one that another
-    /// user's link has. Throws IOException when it cannot be told whether this is a folder.
+    /// user's link has. Throws IOException when it cannot be determined whether this is a folder.
     Ref<FolderItem> Child(std::string_view name) const;
 
-    /// Makes the folder. Whether it worked is not told.
+    /// Makes the folder. Whether it worked is not reported.
     void CreateAsFolder() const;
 
     /// Copies this regular file with its permission bits to `target`, whole or not at all,
-    /// replacing what is there unless it is the same; passes over anything else. Whether it worked
-    /// is not told.
+    /// replacing what is there unless it is the same; ignores anything else. Whether it worked
+    /// is not reported.
     void CopyFileTo(const FolderItem &target, CopyOf use) const;
 
     /// Deletes the file that `read` is, or was until it was closed, but not another that has taken
-    /// its place. Whether it worked is not told.
+    /// its place. Whether it worked is not reported.
     void Delete(const TextInputStream &read) const;
 
     /// Keeps cycles of the user's other programs out of this folder for as long as the result
@@ -102,7 +102,7 @@ Ref<FolderItem> GetFolderItem(const std::string &path, int mode = 0, Links links
 namespace SpecialFolder {
 
 /// The user's folder for preferences, made when missing; nil when there can be none. Throws
-/// IOException when that cannot be told.
+/// IOException when that cannot be determined.
 Ref<FolderItem> Preferences();
 
 } // namespace SpecialFolder

@@ -9,7 +9,7 @@ namespace norvane::disk {
 
 namespace {
 
-/// What stands at `path`; in `error` why that cannot be told, or 0.
+/// What stands at `path`; in `error` why that is unknown, or 0.
 Kind look(const std::string &path, Links links, int &error) {
     Place place;
     error = findPlace(path, place, links);

@@ -42,7 +42,7 @@ int findPlace(std::string path, Place &place, Links links, LastLink lastLink) {
         place.name = "/"; // whatever the folder
     }
     int followed = 0;
-    for (;;) { // `path` is what lies behind the name
+    for (;;) { // `path` is what follows the name
         const std::size_t next = path.find_first_not_of('/');
         const bool last = next == std::string::npos;
         place.status = {};

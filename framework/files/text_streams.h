@@ -26,7 +26,7 @@ class TextInputStream {
     /// The file that was opened, for as long as this lives; null where there is none.
     const disk::InputFile *file() const { return file_.get(); }
 
-    /// The next line without its ending (LF, CR or CRLF, in any mixture); what stands behind the
+    /// The next line without its ending (LF, CR or CRLF, in any mixture); what follows the
     /// last ending is a line as well. Behind the last line, an empty text. The view holds until
     /// Close or the end of the stream.
     std::string_view ReadLine();

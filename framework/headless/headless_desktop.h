@@ -11,7 +11,7 @@
 namespace norvane {
 
 /// The desktop without a screen: dialogs take scripted answers, in order; what a user would have
-/// seen goes into a log; time moves when told to.
+/// seen goes into a log; time moves on request.
 class HeadlessDesktop : public Desktop {
   public:
     HeadlessDesktop() { setCurrent(*this); }

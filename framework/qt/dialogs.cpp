@@ -25,7 +25,7 @@ QWidget *owner() {
 }
 
 /// A dialog for one name. Unlike the toolkit's own it takes quotation marks for part of the name,
-/// and leaves it to the caller to tell that a name is too long.
+/// and leaves it to the caller to report a name that is too long.
 class NameDialog : public QFileDialog {
   public:
     NameDialog(const char *title, const QString &folder)

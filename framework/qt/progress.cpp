@@ -14,7 +14,7 @@ namespace {
 
 /// A slim bar in the middle of its area, so that the text above it stays readable. It is painted at
 /// once, but only when another number of the screen's pixels is filled, and no more often than an
-/// eye can tell; what that passes over comes with the next paint or when the program is idle.
+/// eye can see; what that skips comes with the next paint or when the program is idle.
 class ProgressWidget : public QProgressBar {
   public:
     explicit ProgressWidget(QWidget *parent) : QProgressBar(parent) {

@@ -10,7 +10,7 @@
 namespace norvane {
 
 /// The first place of `text` from byte `start` on that `test` marks, or the size of the text. The
-/// test takes a character and the one behind it ('\0' behind the last) and gives other than 0 to
+/// test takes a character and the next one ('\0' after the last) and gives other than 0 to
 /// mark it; and it takes blocks of 16 of each, of which it marks some by comparing with "==",
 /// joined by "|" and "&".
 template <class Test>

@@ -8,7 +8,7 @@
 namespace norvane {
 
 /// The lines of a text, one after another. A line ends at LF, CR or CRLF, in any mixture; what
-/// stands behind the last ending is a line as well.
+/// follows the last ending is a line as well.
 class LineReader {
   public:
     /// The text must outlive the lines.

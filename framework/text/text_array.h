@@ -41,7 +41,7 @@ class TextArray {
         pieces_.push_back({offset, bytes_.size() - offset});
     }
 
-    /// Makes room ahead for `texts` texts of `bytes` bytes together.
+    /// Reserves room for `texts` texts of `bytes` bytes together.
     void reserve(std::size_t texts, std::size_t bytes);
 
     /// Empties the array and gives its memory back.

@@ -9,8 +9,8 @@ namespace norvane {
 
 /// A value that can be watched. An assignment that changes it first brings what is on screen in
 /// step, then what the framework ties to it, and then raises the action, under a guard of its own:
-/// a failure in it is told and ends it there, and who made the assignment goes on. An assignment
-/// that changes nothing does nothing.
+/// a failure in it is reported and ends it there, and who made the assignment goes on. An
+/// assignment that changes nothing does nothing.
 template <class T>
 class Property {
   public:

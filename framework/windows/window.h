@@ -54,7 +54,7 @@ class Window {
     virtual void Event_Open() {}
     virtual void Event_Close() {}
 
-    /// Puts a control, a member of the window, behind the others in the tab order.
+    /// Puts a control, a member of the window, after the others in the tab order.
     void add(Control &control, const char *name, int left, int top, int width, int height);
 
   private:

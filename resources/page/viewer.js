@@ -2,7 +2,7 @@
 
 // The viewer of a film's captions. It knows nothing of where its data comes from: showFilm(data, root)
 // builds the view of one film below the element `root`, and may be called again for another film;
-// showFilms(films, root) builds the table of several. Both take what is in `root` away first.
+// showFilms(films, root) builds the table of several. Both empty `root` first.
 // Text of a film gets into the document as text alone, never as markup.
 
 const kFramesASecond = 30000 / 1001;
@@ -213,7 +213,7 @@ function effectOf(line) {
     const list = (numbers) => `caption${numbers.length === 1 ? '' : 's'} ${numbers.join(', ')}`;
     const effects = [];
     if (line.shows?.length) effects.push(`shows ${list(line.shows)}`);
-    if (line.removes?.length) effects.push(`takes ${list(line.removes)} away`);
+    if (line.removes?.length) effects.push(`removes ${list(line.removes)}`);
     return effects.join(', ');
 }
 
@@ -222,7 +222,7 @@ function seenOf(row) {
     for (const caption of row.captions.slice(0, 4)) seen.append(smallCaption(caption, row.line.line), timesOf(caption));
     if (row.captions.length > 4) seen.append(make('p', {className: 'times'}, `and ${row.captions.length - 4} more`));
     if (row.captions.length === 0 && !row.line.isHeader)
-        seen.append(make('p', {className: 'quiet'}, effectOf(row.line) || 'nothing is loaded'));
+        seen.append(make('p', {className: 'quiet'}, effectOf(row.line) || 'nothing loaded'));
     return seen;
 }
 
@@ -315,7 +315,7 @@ function screenOf(caption, line) {
         ['Mode', `${caption.mode}, ${caption.service}`],
         ['Rows', caption.rows.map((row) => row.row).join(', ')],
         ['Shown by', caption.shownBy ? `line ${caption.shownBy}` : ''],
-        ['Taken away by', caption.removedBy ? `line ${caption.removedBy}` : 'nothing']];
+        ['Removed by', caption.removedBy ? `line ${caption.removedBy}` : 'nothing']];
     return make('figure', {}, screen, make('figcaption', {},
         make('h4', {}, `Caption ${caption.caption}`), listOf(facts)));
 }
@@ -366,7 +366,7 @@ function detailOf(film, row) {
     const {line} = row;
     const facts = [['Sent', line.timecode], ['Takes', `${counted(row.end - row.frame, 'frame')}`],
         ['In the transcript at', line.start], ['Mode', line.mode], ['On the screen', row.captions.length ? '' : effectOf(line)]];
-    return make('section', {className: 'detail', 'aria-label': `Line ${line.line} in detail`},
+    return make('section', {className: 'detail', 'aria-label': `Details of line ${line.line}`},
         make('div', {className: 'do'}, make('h3', {}, 'What to do'), adviceOf(film, row)),
         line.isHeader ? null : make('div', {className: 'screens'}, row.captions.slice(0, 8).map((caption) => screenOf(caption, line.line)),
             make('div', {}, make('h4', {}, `Line ${line.line}`), listOf(facts))),
@@ -422,7 +422,7 @@ function switchesOf(film, change) {
         });
         group.append(button);
     }
-    if (!film.kinds?.length) group.append(make('p', {className: 'quiet'}, 'Nothing was found that is wrong or needs a look.'));
+    if (!film.kinds?.length) group.append(make('p', {className: 'quiet'}, 'No findings.'));
     return group;
 }
 
@@ -479,7 +479,7 @@ function fillStretch(stretch, film, view, choose) {
         const overlaps = row.frame < end;
         end = Math.max(end, row.end);
         return block(overlaps ? 'overlap' : '', row, row === view.row, row.frame, row.end,
-            `Line ${row.line.line}, sent ${row.line.timecode}, ${counted(row.end - row.frame, 'frame')}${overlaps ? ', before the one ahead is through' : ''}`, String(row.line.line));
+            `Line ${row.line.line}, sent ${row.line.timecode}, ${counted(row.end - row.frame, 'frame')}${overlaps ? ', overlapping the line before' : ''}`, String(row.line.line));
     });
     const tracks = []; // until when each is taken: captions that are seen together stand below each other
     const seen = film.captions.filter((caption) => isIn(caption.startFrame, caption.endFrame ?? film.to)).map((caption) => {
@@ -525,7 +525,7 @@ function showRefusal(data, root) {
     const around = (refused.around || []).map((each) => make('li', {className: each.line === refused.line ? 'refused' : '', value: each.line},
         each.text.split('\t').flatMap((text, index) => index ? [make('span', {className: 'tab'}, '\t'), text] : [text || ' '])));
     root.replaceChildren(make('header', {className: 'film'}, make('h1', {}, data.file)),
-        make('section', {className: 'refusal', role: 'alert'}, make('h2', {}, signOf('error'), 'No transcript can be made of this file'),
+        make('section', {className: 'refusal', role: 'alert'}, make('h2', {}, signOf('error'), 'No transcript can be made from this file'),
             make('p', {className: 'message'}, refused.line ? `Line ${refused.line}: ` : '', refused.text),
             refused.help ? make('p', {}, refused.help) : null,
             around.length ? make('ol', {className: 'around'}, around) : null));
@@ -554,7 +554,7 @@ function showFilm(data, root) {
     const canvas = make('canvas', {});
     const strip = make('div', {className: 'strip', role: 'slider', tabIndex: 0, 'aria-label': 'The whole film', 'aria-valuemin': 1, 'aria-valuemax': Math.max(1, film.rows.length)},
         canvas, make('span', {className: 'window'}), make('span', {className: 'cursor'}));
-    const stretch = make('div', {className: 'stretch', role: 'group', 'aria-label': 'The stretch around the chosen caption'});
+    const stretch = make('div', {className: 'stretch', role: 'group', 'aria-label': 'Around the selected caption'});
     const search = make('input', {type: 'search', id: 'search', placeholder: 'Text or time, such as 00:12:30', 'aria-label': 'Search for text or time', autocomplete: 'off', spellcheck: false});
     const button = (text, label, action) => {
         const made = make('button', {type: 'button', 'aria-label': label, title: label}, text);
@@ -594,7 +594,7 @@ function showFilm(data, root) {
         found = film.rows.filter(wantedFindings);
         fillList(visible);
         const isAll = state.kinds.size === 0 && state.query === '';
-        status.textContent = isAll ? '' : visible.length === 0 ? 'No line has it.' : `${visible.length.toLocaleString('en')} of ${counted(film.rows.length, 'line')}`;
+        status.textContent = isAll ? '' : visible.length === 0 ? 'No line matches.' : `${visible.length.toLocaleString('en')} of ${counted(film.rows.length, 'line')}`;
         paintAll();
     };
     /** Goes to a row, which becomes the chosen one. */
@@ -632,7 +632,7 @@ function showFilm(data, root) {
     }
 
     const blankCount = film.rows.filter((row) => !row.hasText && row.findings.length === 0).length;
-    const blanks = make('button', {type: 'button', className: 'blanks', 'aria-pressed': 'false'}, `${counted(blankCount, 'line')} of codes alone`);
+    const blanks = make('button', {type: 'button', className: 'blanks', 'aria-pressed': 'false'}, `${counted(blankCount, 'line')} of codes only`);
     blanks.addEventListener('click', () => {
         state.blanks = !state.blanks;
         blanks.setAttribute('aria-pressed', String(state.blanks));
@@ -644,13 +644,13 @@ function showFilm(data, root) {
         state.kinds = kinds;
         refresh();
     }), toolbar, keysOf());
-    const bar = make('section', {className: 'bar', 'aria-label': 'The way through the film'},
+    const bar = make('section', {className: 'bar', 'aria-label': 'Navigation'},
             make('div', {className: 'whole'}, namesOf(), strip), make('div', {className: 'enlarged'}, namesOf(), stretch),
             make('div', {className: 'tools'}, search, status,
                 make('div', {className: 'steps'}, blankCount ? blanks : null,
                     steps('Caption', button('↑', 'Previous caption (k)', () => step(-1, isText)), button('↓', 'Next caption (j)', () => step(1, isText))),
                     film.findings.length ? steps('Finding', button('↑', 'Previous finding (p)', () => step(-1, wantedFindings)), button('↓', 'Next finding (n)', () => step(1, wantedFindings))) : null,
-                    steps('Zoom', button('−', 'A longer stretch', () => zoom(1)), button('+', 'A shorter stretch', () => zoom(-1))))));
+                    steps('Zoom', button('−', 'Zoom out', () => zoom(1)), button('+', 'Zoom in', () => zoom(-1))))));
     root.replaceChildren(...[head, film.rows.length ? bar : null,
         make('h2', {className: 'unseen'}, 'Captions'),
         make('div', {className: 'heads', 'aria-hidden': 'true'}, ['Time', 'Transcript', 'What the viewer sees'].map((head) => make('span', {}, head))),

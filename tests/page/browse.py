@@ -126,7 +126,7 @@ for what, do, question, answer in [
     ('filters off', lambda: (click('[data-kind=single]'), click('[data-kind=altered]')), lines, every),
     ('search for what is seen', lambda: search('12TH'), lines, 'line-9'),
     ('search for what the transcript has', lambda: search('fld'), lines, 'line-7'),
-    ('search in vain', lambda: search('zebra'), 'document.querySelector("[role=status]").textContent', 'No line has it.'),
+    ('search in vain', lambda: search('zebra'), 'document.querySelector("[role=status]").textContent', 'No line matches.'),
     ('all again', lambda: press(Keys.ESCAPE), lines, every),
     ('search for a time', lambda: search('00:00:19'), chosen + '+' + lines, 'line-11' + every),
     ('keys are text while typing', lambda: press('j'), lines, ''),

@@ -148,7 +148,7 @@ def work_can_be_stopped():
     click('stop')
     same('stopped', states()[-2:], ['stopped', 'stopped'])
     press(']')
-    wait(lambda: states()[-1].startswith('too large to be looked into'), 'a film behind the stop')
+    wait(lambda: states()[-1].startswith('too large to explain'), 'a film behind the stop')
     driver.find_element(By.CSS_SELECTOR, '#rows .off button').click()
     same('20 MB', driver.execute_async_script(ANSWERS, 'transcript', 0, 0)[0], hashlib.sha256(companion('long.scc').stdout).hexdigest())
 

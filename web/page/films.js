@@ -59,7 +59,7 @@ async function look(film) {
     if (data.refused) throw new Refused(data.refused);
     film.refused = false;
     film.summary = data.summary;
-    setState(film, data.isTooLarge ? 'too large to be looked into; the transcript is whole' : 'ready');
+    setState(film, data.isTooLarge ? 'too large to explain; the transcript is complete' : 'ready');
     return data;
 }
 
@@ -71,7 +71,7 @@ function showList() {
 function makeRow(film) {
     const name = make('button', {type: 'button'}, film.name);
     name.addEventListener('click', () => choose(film));
-    const off = make('button', {type: 'button', 'aria-label': `Take ${film.name} off the list`, title: 'Take off the list'}, '×');
+    const off = make('button', {type: 'button', 'aria-label': `Remove ${film.name} from the list`, title: 'Remove from the list'}, '×');
     off.addEventListener('click', () => takeOff(film));
     film.parts = {name, captions: make('td', {className: 'captions'}), findings: make('td', {className: 'findings'}), state: make('td')};
     film.row = make('tr', {}, make('th', {scope: 'row'}, name), film.parts.captions, film.parts.findings, film.parts.state, make('td', {className: 'off'}, off));
@@ -129,7 +129,7 @@ function showTranscript() {
         part('transcript-name').textContent = transcriptName(film);
         part('text').textContent = textOf(isWhole ? bytes : bytes.subarray(0, kLongestShown));
         part('shortened').hidden = isWhole;
-        part('shortened').textContent = `The beginning of ${(bytes.length / 1e6).toFixed(0)} MB; Copy and Save take all.`;
+        part('shortened').textContent = `The beginning of ${(bytes.length / 1e6).toFixed(0)} MB; Copy and Save take all of it.`;
     });
 }
 

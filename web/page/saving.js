@@ -16,7 +16,7 @@ async function copyTranscript() {
         say(`${transcriptName(shown.film)} copied.`);
     } catch {
         getSelection().selectAllChildren(part('text'));
-        say('This browser lets no page copy. The transcript is selected: copy it with the keyboard.');
+        say('This browser does not allow copying. The transcript is selected: copy it with the keyboard.');
     }
 }
 
@@ -37,7 +37,7 @@ const isThere = (folder, name) => folder.getFileHandle(name).then(() => true, (f
 async function writeTo(folder, film, bytes) {
     const name = transcriptName(film);
     const isNew = !await isThere(folder, name);
-    if (!isNew && !part('replace').checked) throw new Error(`“${name}” exists already`);
+    if (!isNew && !part('replace').checked) throw new Error(`“${name}” already exists`);
     const file = await folder.getFileHandle(name, {create: true});
     try {
         const stream = await file.createWritable();

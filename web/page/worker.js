@@ -23,7 +23,7 @@ class Problem extends Error {
 
 let held = {id: 0, text: 0}; // the film in memory
 
-const kTooLarge = {text: 'This file does not fit in the memory that the browser gives to a page.',
+const kTooLarge = {text: 'This file does not fit in the memory of a page.',
     help: 'Split it, or use norvane-transcript, which needs less.', line: 0};
 
 /** A text of the core; none is there when memory did not suffice. */

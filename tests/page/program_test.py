@@ -136,7 +136,7 @@ def transcripts_go_into_a_folder():
         click('save-to-folder')
         wait(lambda: text('said') == f'{said} transcripts saved in “”.', said)
         same('in the folder', driver.execute_async_script(saved).encode(), companion('show.scc', *options).stdout)
-    same('states', states()[0], 'saved as show.txt')
+    wait(lambda: states()[0] == 'saved as show.txt', 'the state')
 
 
 def work_can_be_stopped():
@@ -146,7 +146,7 @@ def work_can_be_stopped():
     take(work / 'endless.scc', work / 'long.scc')
     wait(lambda: driver.find_element(By.ID, 'progress').get_attribute('value') and driver.find_element(By.ID, 'stop').is_displayed(), 'progress')
     click('stop')
-    same('stopped', states()[-2:], ['stopped', 'stopped'])
+    wait(lambda: states() == ['stopped', 'stopped'], 'stopped')
     press(']')
     wait(lambda: states()[-1].startswith('too large to explain'), 'a film behind the stop')
     driver.find_element(By.CSS_SELECTOR, '#rows .off button').click()

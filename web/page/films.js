@@ -78,7 +78,21 @@ function makeRow(film) {
     part('rows').append(film.row);
 }
 
+const changed = new Set(); // films whose state is to be drawn
+let drawing = 0; // a timer
+
 function setState(film, state, className = '') {
+    film.state = {state, className};
+    changed.add(film);
+    drawing ||= setTimeout(() => {
+        drawing = 0;
+        for (const each of changed) drawState(each);
+        changed.clear();
+    }, kShownEvery);
+}
+
+function drawState(film) {
+    const {state, className} = film.state;
     const found = Object.values(film.summary?.findings || {}).reduce((sum, count) => sum + count, 0);
     film.parts.captions.textContent = film.summary?.captions.toLocaleString('en') ?? '';
     film.parts.findings.textContent = film.summary ? found.toLocaleString('en') : '';

@@ -90,7 +90,7 @@ function stopWork() {
     say('Stopped.');
 }
 
-const kShownEvery = 150; // milliseconds: what is done sooner is not shown, and drawing the page takes longer than a small film
+const kShownEvery = 150; // milliseconds: to draw the page takes longer than to decode a small film, and what is done sooner needs no progress
 
 let showing = 0; // a timer
 let done = null; // how much of the first job, from 0 to 1

@@ -33,6 +33,7 @@ mkdir "$sources"
 { in_git ls-files -z --cached --others --exclude-standard || true; } >"$work/list"
 [ -s "$work/list" ] || (cd "$root" && find . -path ./build -prune -o -path ./.git -prune -o -type f -print0) >"$work/list"
 tar -C "$root" --null -T "$work/list" -c | tar -C "$sources" -x --no-same-permissions
+chmod -R u=rwX,go=rX "$sources" # whatever the umask, which also went into the copy
 rm "$work/list"
 sed -i "1s/(.*) UNRELEASED/($version) unstable/; 0,/^ -- /s/^\( -- .*>  \).*/\1${date:-$(field Date)}/" "$sources/debian/changelog"
 

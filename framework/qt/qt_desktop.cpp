@@ -146,7 +146,6 @@ void QtDesktop::show(Window &window) {
         peer = new WindowPeer(window, *application_, Look{scale, style_, pictures},
                               [this] { quit(); });
     peer->show();
-    peer->setAttribute(Qt::WA_KeyboardFocusChange); // so that the first focus is seen as well
     peer->setWindowState(peer->windowState() & ~Qt::WindowMinimized);
     peer->raise();
     peer->activateWindow();

@@ -98,6 +98,11 @@ WindowPeer::WindowPeer(Window &window, Application &application, const Look &loo
     keepLabelsClear();
     follow(window.Width, this, [this] { takeSize(); });
     follow(window.Height, this, [this] { takeSize(); });
+    // A focus that came with the window is seen as one that came by a key.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *old, QWidget *now) {
+        if (old == nullptr && now != nullptr && now->window() == this)
+            setAttribute(Qt::WA_KeyboardFocusChange);
+    });
 }
 
 void WindowPeer::addControls() {

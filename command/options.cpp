@@ -1,67 +1,17 @@
 #include "command/options.h"
 
+#include "command/option_conflicts.h"
+#include "command/suggestion.h"
+#include "command/usage.h"
 #include "framework/text/text.h"
 
 #include <algorithm>
 #include <getopt.h>
-#include <numeric>
 #include <optional>
 
 namespace norvane {
 
 namespace {
-
-constexpr const char *kUsage =
-    "Usage: norvane-transcript [OPTION]... FILE...\n"
-    "       norvane-transcript --explain [--find TEXT] [--at TIME] [--advised] [--screen]\n"
-    "                          [--json] FILE[:LINE|:FIRST-LAST]...\n"
-    "       norvane-transcript --check [--json] [--each|--summary] [--without KIND,...]\n"
-    "                          [--limit NAME=VALUE]... [@RULES] FILE...\n"
-    "       norvane-transcript --page [--open] FILE...\n"
-    "Turns Scenarist Closed Caption files (.scc) into readable transcripts, explains what became\n"
-    "of each word of a file, checks files, or shows them as pages. FILE - is standard input,\n"
-    "which is also read if no FILE is given and input is piped in.\n"
-    "\n"
-    "  --form timecode|line|paragraph  layout of the transcript (timecode)\n"
-    "  --clock unbuffered|scc          start times corrected for the buffer, or as in the\n"
-    "                                  file (unbuffered)\n"
-    "  --no-heading                    omit the heading, which names the file\n"
-    "  -o FILE                         write to FILE, not to standard output\n"
-    "  --output-dir DIR                write DIR/NAME.txt for each file; NAME is the name of\n"
-    "                                  the file up to its first period\n"
-    "  --force                         replace existing transcripts and pages\n"
-    "  --stdin-name NAME               name for standard input (stdin)\n"
-    "  --explain                       explain data lines: what a viewer sees and when, each\n"
-    "                                  word, what it means, what became of it, what to do\n"
-    "  --find TEXT                     only lines with TEXT in the transcript or on the screen\n"
-    "  --at TIME                       only lines sent or seen at TIME, written 00:01:02:03 as\n"
-    "                                  in the file or 00:01:02.10 as in the transcript\n"
-    "  --advised                       only lines with something to correct\n"
-    "  --screen                        show rows as they appear on the screen\n"
-    "  --check                         print what is wrong with each file: FILE:LINE: KIND: text;\n"
-    "                                  findings with the same cause are reported once\n"
-    "  --each                          report every finding\n"
-    "  --summary                       print one line per file instead, with tabs: captions,\n"
-    "                                  times, findings, fastest reading, longest row, most rows\n"
-    "  --limit NAME=VALUE              require more than the standard does; the names are\n"
-    "                                  reading-rate (maximum characters per second), shortest,\n"
-    "                                  longest (frames on the screen), gap (minimum frames\n"
-    "                                  between captions), row-length, rows (maximums),\n"
-    "                                  upper-rows (how many of rows 5 to 11 may be used; 0)\n"
-    "  @RULES                          read options from the file RULES, one per line\n"
-    "  --without KIND,...              omit kinds of findings; the kinds are\n";
-
-constexpr const char *kUsageAfterKinds =
-    "  --json                          print one JSON object per line\n"
-    "  --page                          print a page for a browser: the captions with all that\n"
-    "                                  --explain and --check report; with --output-dir, write\n"
-    "                                  DIR/NAME.html for each file and DIR/index.html\n"
-    "  --open                          open the page\n"
-    "  --help, -h                      print this help and exit\n"
-    "  --version                       print the version and exit\n"
-    "\n"
-    "Exit status: 0 for success, 1 if a transcript failed or a check found something, 2 for wrong\n"
-    "usage or if --check or --explain could not read a file.\n";
 
 /// Above all characters, which getopt_long returns for one-letter options.
 namespace Found {
@@ -129,37 +79,6 @@ Options wrong(const std::string &what) {
     return answered("norvane-transcript: " + what + "\nTry 'norvane-transcript --help'.\n", 2);
 }
 
-/// How many letters must be put in, taken out or replaced to make one word of the other.
-std::size_t distance(std::string_view from, std::string_view to) {
-    std::vector<std::size_t> row(to.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (const char letter : from) {
-        std::size_t diagonal = row[0]++;
-        for (std::size_t j = 0; j < to.size(); ++j) {
-            const std::size_t replaced = diagonal + (letter == to[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
-        }
-    }
-    return row.back();
-}
-
-/// "; did you mean ...?" when one of the words is near.
-template <class Words>
-std::string suggestion(std::string_view word, const Words &words, std::string_view prefix) {
-    constexpr std::size_t kNear = 2;
-    std::string_view best;
-    std::size_t bestDistance = kNear + 1;
-    for (const std::string_view candidate : words) {
-        const std::size_t candidateDistance = distance(word, candidate);
-        if (candidateDistance < bestDistance) {
-            best = candidate;
-            bestDistance = candidateDistance;
-        }
-    }
-    return best.empty() ? "" : std::string("; did you mean '").append(prefix).append(best) + "'?";
-}
-
 std::string unknownOption(std::string_view argument) {
     std::vector<std::string_view> names;
     std::string candidates; // that begin with it
@@ -201,7 +120,7 @@ std::string leaveOut(std::string_view list, FindingKinds &kinds) {
         const std::string_view name = list.substr(0, comma);
         const auto kind = indexOf(name, kFindingNames);
         if (!kind)
-            return "unknown kind '" + printable(name) + "'" + suggestion(name, kFindingNames, "");
+            return "unknown kind '" + printable(name) + "'" + suggestion(name, kFindingNames);
         kinds.reset(*kind);
         if (comma == std::string_view::npos)
             return "";
@@ -219,7 +138,7 @@ std::string setLimit(std::string_view text, Limits &limits) {
         names.push_back(known.name);
     const auto index = indexOf(name, names);
     if (!index)
-        return "unknown limit '" + printable(name) + "'" + suggestion(name, names, "");
+        return "unknown limit '" + printable(name) + "'" + suggestion(name, names);
     const auto limit = kLimitNames.at(*index).limit;
     const std::string_view value = equals == std::string_view::npos ? "" : text.substr(equals + 1);
     const bool isNumber = !value.empty() && isDigit(value.front()) &&
@@ -233,21 +152,6 @@ std::string setLimit(std::string_view text, Limits &limits) {
         return "limit '" + std::string(name) + "' needs a number, as in '" + std::string(name) +
                "=20'";
     return "";
-}
-
-std::string usage() {
-    constexpr const char *kIndent = "                                  ";
-    constexpr std::size_t kWidth = 56; // of the column after the indent
-    std::string text = kUsage;
-    std::string line;
-    for (const std::string_view name : kFindingNames) {
-        if (line.size() + name.size() + 1 > kWidth) {
-            text += kIndent + line + "\n";
-            line.clear();
-        }
-        line.append(line.empty() ? "" : " ").append(name);
-    }
-    return text + kIndent + line + "\n" + kUsageAfterKinds;
 }
 
 /// Takes an option with its value. Gives what is wrong with it, or the empty text.
@@ -323,42 +227,6 @@ std::string take(int found, const std::string &value, Options &options) {
     }
 }
 
-/// What does not go together; empty when all does.
-std::string contradiction(const Options &options) {
-    if (options.files.empty())
-        return "no file given";
-    if (!options.rules.wanted.all() && options.task != Task::check)
-        return "--without can be used only with --check";
-    if (options.rules.told == Findings::Told::each && options.task != Task::check)
-        return "--each can be used only with --check";
-    const bool isChosen =
-        !options.choice.text.empty() || !options.choice.time.empty() || options.choice.advised;
-    if ((isChosen || options.screen) && options.task != Task::explain)
-        return "--find, --at, --advised and --screen can be used only with --explain";
-    if (options.summary && options.task != Task::check)
-        return "--summary can be used only with --check";
-    if (options.rules.limits.isAny() && options.task != Task::check)
-        return "--limit can be used only with --check";
-    const bool explains = options.task == Task::explain || options.task == Task::check;
-    if (options.json && !explains)
-        return "--json can be used only with --explain or --check";
-    const bool toFile = !options.outputFile.empty();
-    const bool toFolder = !options.outputFolder.empty();
-    if ((toFile || !options.heading) && options.task != Task::transcribe)
-        return "-o and --no-heading can be used only for transcripts";
-    if ((options.force || toFolder) && explains)
-        return "--output-dir and --force can be used only for transcripts and pages";
-    if (options.open && options.task != Task::page)
-        return "--open can be used only with --page";
-    if (options.task == Task::page && options.files.size() > 1 && !options.open && !toFolder)
-        return "--page of several files needs --output-dir or --open";
-    if (toFile && toFolder)
-        return "-o and --output-dir cannot be combined";
-    if (toFile && options.files.size() > 1)
-        return "-o is for one file: use --output-dir for several";
-    return "";
-}
-
 } // namespace
 
 Options readOptions(int count, char **arguments, bool inputIsPiped) {
@@ -386,7 +254,7 @@ Options readOptions(int count, char **arguments, bool inputIsPiped) {
     options.files.assign(arguments + optind, arguments + count);
     if (options.files.empty() && inputIsPiped)
         options.files.emplace_back("-");
-    const std::string problem = contradiction(options);
+    const std::string problem = conflictIn(options);
     return problem.empty() ? options : wrong(problem);
 }
 

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace norvane {
+
+/// What --help prints.
+std::string usage();
+
+} // namespace norvane

@@ -5,6 +5,10 @@
 
 #include <algorithm>
 
+// The clean-up runs block by block while the text is still in the cache. That gives the same as a
+// pass over the whole text, since no clean-up reaches across the end of a line; a paragraph is one
+// line, so it waits for the end.
+
 namespace norvane {
 
 void TranscriptBody::add(std::string_view timecode, std::string_view caption) {

@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+// Modes and memories, by CEA-608-E, annex C, and 47 CFR 79.101: a change to roll-up erases both
+// memories (C.10); a base row without room for the rows above it is lowered (C.4, C.7); EOC
+// exchanges the memories and erases neither (C.10, C.11).
+
 namespace norvane {
 
 namespace {

@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <bit>
 
+// The standard knows memories, not captions. Here each row with something to read has one owner at
+// any time; an event that changes or erases a row ends its owner, or a part of it, which keeps the
+// row as it was. So a caption is passed on once its last row is gone, and with it its text at its
+// end, not at its start.
+
 namespace norvane {
 
 namespace {

@@ -16,13 +16,15 @@ struct CheckRules {
 };
 
 struct CheckResult {
-    std::vector<Finding> findings{}; // in the order of their lines
-    std::array<std::size_t, kFindingKinds.size()>
-        counts{}; // by kind, those reported as one counted singly
+    std::vector<Finding> findings{};                        // in the order of their lines
+    std::array<std::size_t, kFindingKinds.size()> counts{}; // by kind, before merging
     FilmSummary summary{};
 };
 
-/// Checks a film as it is read. Memory grows only with what is reported.
+/// Checks a film as it is read. Memory grows only with what is reported. Of its own, beside the
+/// checks below it: the header, tabs and the byte order mark, by the convention of SCC files, which
+/// have no public standard; a film without any caption; and where the transcript differs from
+/// correct words, which concerns the transcript only.
 class Check {
   public:
     /// `also` receives the captions as well, in the order of FilmDecoder.

@@ -22,7 +22,10 @@ struct FilmSummary {
 
 class CaptionTeller;
 
-/// Looks at the captions of a film.
+/// Looks at the captions of a film, by CEA-608-E: loaded captions are shown by EOC (C.10, C.11) and
+/// erased in the end (C.9); a row has 32 columns (C.7), a screen at most four rows (C.6). One that
+/// is on the screen for a frame or two, nobody sees. The limits are house rules; rows 5 to 11 are
+/// avoided for old decoders (B.2).
 class CaptionCheck {
   public:
     explicit CaptionCheck(const Limits &limits) : limits_(limits) {}

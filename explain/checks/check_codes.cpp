@@ -163,7 +163,7 @@ CodeCheck::Marks CodeCheck::marksOf(const SccLine &line) {
         marks.secondField |= meaning.secondField;
         marks.highBase |= highBaseRow(word) != 0;
         if (isSentTwice(meaning)) {
-            ++(word.repeats ? repetitions_ : codes_);
+            singles_.count(word.repeats);
             isSingle = !word.repeats;
         }
     }
@@ -194,59 +194,11 @@ void CodeCheck::look(const SccLine &line, Findings &findings) {
         add(FindingKind::field, 0, otherField);
     if (marks.highBase)
         add(FindingKind::rows, 1, highBase);
-    lookAtSingles(line, marks.single, findings);
-}
-
-void CodeCheck::lookAtSingles(const SccLine &line, bool hasSome, Findings &findings) {
-    constexpr std::size_t kMost = 4;
-    if (singles_.count > 0 && !line.words.empty() && line.words[0].repeats) {
-        if (singles_.count-- <= kMost) {
-            singles_.codes.pop_back();
-            singles_.frames.pop_back();
-        }
-    }
-    tellSingles(findings);
-    if (!hasSome)
-        return;
-    singles_.line = line.number;
-    singles_.timecode = line.data.timecode;
-    for (std::size_t i = 0; i < line.words.size(); ++i) {
-        const SccWord &word = line.words[i];
-        const bool goesOn = i + 1 < line.words.size() && line.words[i + 1].repeats;
-        if (isSentTwice(*word.meaning) && !word.repeats && !goesOn && singles_.count++ < kMost) {
-            singles_.codes.push_back(word.code);
-            singles_.frames.push_back(i);
-        }
-    }
-}
-
-void CodeCheck::tellSingles(Findings &findings) {
-    if (singles_.count > 0) {
-        findings.add(singles_.line, FindingKind::single, 0, [this] {
-            ShortList list;
-            Finding finding;
-            for (const std::uint16_t code : singles_.codes) {
-                list.add(wordOf(code));
-                finding.words.push_back(wordOf(code));
-            }
-            for (std::size_t i = singles_.codes.size(); i < singles_.count; ++i)
-                list.add("");
-            finding.text = list.text() + (singles_.count == 1 ? " is" : " are") +
-                           " sent only once, but the file sends its codes twice: correct the line.";
-            finding.timecode = singles_.timecode;
-            finding.frame = singles_.frames.front();
-            return finding;
-        });
-    }
-    singles_.count = 0;
-    singles_.codes.clear();
-    singles_.frames.clear();
+    singles_.look(line, marks.single, findings);
 }
 
 void CodeCheck::finish(Findings &findings) {
-    tellSingles(findings);
-    if (2 * repetitions_ <= codes_)
-        findings.takeBack(FindingKind::single); // the file sends them once
+    singles_.finish(findings);
     if (2 * wrongWords_ > words_) {
         findings.tellOnce(FindingKind::parity,
                           "Parity is wrong here and in most of the file, as if it was written "

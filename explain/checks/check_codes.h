@@ -1,11 +1,14 @@
 #pragma once
 
-#include "explain/checks/findings.h"
+#include "explain/checks/check_singles.h"
 #include "explain/standard/scc_line.h"
 
 namespace norvane {
 
-/// Looks at the words of lines that follow one another, by CEA-608.
+/// Looks at the words of lines that follow one another. Odd parity and the codes that exist: 47 CFR
+/// 79.101 and the tables of CEA-608-E; nothing of field 2 in field 1: B.11.5, B.11.6; room for a
+/// roll-up above its base row: C.4; codes sent twice: see SingleCheck. Words of a second channel
+/// (C.15) or of text mode (7) are permitted, but do not belong in a file of captions.
 class CodeCheck {
   public:
     void look(const SccLine &line, Findings &findings);
@@ -24,24 +27,11 @@ class CodeCheck {
         bool highBase = false;
         bool single = false;
     };
-    /// Codes that were sent once, of the line before: its last may go on in the next.
-    struct Singles {
-        std::size_t line = 0;
-        std::string timecode{};
-        std::vector<std::size_t> frames{};  // the first few
-        std::vector<std::uint16_t> codes{}; // the same
-        std::size_t count = 0;
-    };
-
     Marks marksOf(const SccLine &line);
-    void lookAtSingles(const SccLine &line, bool hasSome, Findings &findings);
-    void tellSingles(Findings &findings);
 
     std::size_t words_ = 0;
     std::size_t wrongWords_ = 0;
-    std::size_t codes_ = 0;
-    std::size_t repetitions_ = 0;
-    Singles singles_{};
+    SingleCheck singles_{};
 };
 
 } // namespace norvane

@@ -4,7 +4,10 @@
 
 namespace norvane {
 
-/// Looks at the timecodes of lines that follow one another, and for lines that come twice.
+/// Looks at the timecodes of lines that follow one another. Hours, frames and the numbers that
+/// drop-frame skips: SMPTE ST 12. The order, and room for all words at one pair of bytes per frame
+/// (CEA-608), are what a player relies on; a line that repeats the previous one is an accident of
+/// editing.
 class TimecodeCheck {
   public:
     void look(const SccLine &line, Findings &findings);

@@ -6,6 +6,10 @@
 #include <string>
 #include <string_view>
 
+// SCC has no public standard. What counts as a data line is what the decode takes; what is guessed
+// here are the accidents of the trade: renamed subtitles, editors that save UTF-16 or spaces in the
+// place of tabs, comments.
+
 namespace norvane {
 
 /// What a text (the first two lines are enough) is instead of an SCC file, UTF-16, subtitles in

@@ -21,7 +21,4 @@ void add(TextReport &report, std::string_view file, const Explanation &explanati
 void add(JsonWriter &json, std::string_view file, const Explanation &explanation,
          const FilmCaptions &captions, bool screen);
 
-void add(TextReport &report, std::string_view file, const Finding &finding);
-void add(JsonWriter &json, std::string_view file, const Finding &finding);
-
 } // namespace norvane

@@ -5,6 +5,8 @@
 
 #include <array>
 
+// Drop-frame (SMPTE ST 12) skips two numbers in nine of ten minutes: ten minutes are 17982 frames.
+
 namespace norvane {
 
 namespace {

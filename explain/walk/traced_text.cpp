@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cstring>
 
+// An edit copies within the text: it can, since nothing that is inserted is longer than what it
+// replaces. What is inserted comes from all that it replaces; only what is deleted without a
+// replacement is marked as gone, so that it does not count between the places of its neighbours.
+
 namespace norvane {
 
 TracedText::TracedText(std::string_view source)

@@ -27,11 +27,11 @@ class TextInputStream {
     const disk::InputFile *file() const { return file_.get(); }
 
     /// The next line without its ending (LF, CR or CRLF, in any mixture); what follows the
-    /// last ending is a line as well. Behind the last line, an empty text. The view holds until
+    /// last ending is a line as well. After the last line, an empty text. The view holds until
     /// Close or the end of the stream.
     std::string_view ReadLine();
 
-    /// True when nothing is left to read. (C's own macro bars the shorter name.)
+    /// True when nothing is left to read. EOF is a macro of C.
     bool EndOfFile();
 
     /// The whole text, whatever has been read of it; the view holds as long as those of lines.

@@ -29,7 +29,7 @@ std::string traits(std::initializer_list<std::pair<bool, const char *>> words) {
 }
 
 /// The kind of a control and what of it does not change.
-std::string designOf(Control &control) {
+std::string designOf(RectControl &control) {
     const auto isCentred = [](const auto *text) {
         return std::pair(text->alignment == Alignment::centred, "centred");
     };
@@ -59,7 +59,7 @@ std::string designOf(Control &control) {
 
 } // namespace
 
-std::string stateOf(Control &control) {
+std::string stateOf(RectControl &control) {
     const std::string state = std::visit(
         Visitor{
             [](CheckBox *box) { return std::string(box->Value ? " on" : " off"); },
@@ -70,7 +70,7 @@ std::string stateOf(Control &control) {
             [](ProgressBar *bar) {
                 return numbers({bar->Value}) + " of" + numbers({bar->Maximum});
             },
-            [](Control *) { return std::string(); },
+            [](RectControl *) { return std::string(); },
         },
         control.kind());
     return state + traits({{!control.Visible, "hidden"}, {!control.Enabled, "disabled"}});
@@ -88,7 +88,7 @@ std::string describe(const Window &window) {
                                {window.LiveResize, "live"},
                                {window.MenuBarVisible && window.MenuBar != nullptr, "menu bar"}}) +
                        "\n";
-    for (Control *control : window.controls()) {
+    for (RectControl *control : window.controls()) {
         const std::string &name = control->accessibleName;
         text += control->Name + ": " + designOf(*control) +
                 numbers({control->Left, control->Top, control->Width, control->Height}) +

@@ -7,7 +7,7 @@
 namespace norvane {
 
 /// What may change of a control, in words that begin with a blank each: ' "15" hidden disabled'.
-std::string stateOf(Control &control);
+std::string stateOf(RectControl &control);
 
 /// A window in words: a line of its title, sizes (now, least, most) and what its user may do to it,
 /// then one for each control in tab order, with its kind, place, size, caption and state. An end of

@@ -30,7 +30,7 @@ Ref<FolderItem> HeadlessDesktop::answerTo(const std::string &dialog) {
     return item;
 }
 
-bool HeadlessDesktop::canUse(const Control &control) {
+bool HeadlessDesktop::canUse(const RectControl &control) {
     if (!control.Visible || !control.Enabled)
         problems_.push_back(control.Name + " cannot be used");
     return control.Visible && control.Enabled;
@@ -114,7 +114,7 @@ void HeadlessDesktop::showURL(const std::string &address) {
 }
 
 void HeadlessDesktop::add(Window &window) {
-    for (Control *control : window.controls()) {
+    for (RectControl *control : window.controls()) {
         const auto seen = [this, control] { note(control->Name + stateOf(*control)); };
         const auto changed = [seen, control] {
             if (control->Visible)
@@ -137,7 +137,7 @@ void HeadlessDesktop::add(Window &window) {
                            whenValue(bar);
                            bar->Maximum.shown = changed;
                        },
-                       [](Control *) {},
+                       [](RectControl *) {},
                    },
                    control->kind());
     }

@@ -74,7 +74,7 @@ class HeadlessDesktop : public Desktop {
     };
     void note(const std::string &line);
     Ref<FolderItem> answerTo(const std::string &dialog);
-    bool canUse(const Control &control);
+    bool canUse(const RectControl &control);
 
     std::deque<Answer> answers_;
     std::vector<std::string> log_;

@@ -45,7 +45,7 @@ QWidget *makeSeparator(QWidget *parent) {
     return line;
 }
 
-QWidget *widgetOfKind(Control &control, QWidget *parent, const Look &look) {
+QWidget *widgetOfKind(RectControl &control, QWidget *parent, const Look &look) {
     return std::visit(Visitor{
                           [&](BevelButton *button) { return makeButton(*button, parent); },
                           [&](PushButton *button) { return makeButton(*button, parent); },
@@ -81,7 +81,7 @@ void paintNow(QWidget *widget) {
 
 } // namespace
 
-QWidget *makeWidget(Control &control, QWidget *parent, const Look &look) {
+QWidget *makeWidget(RectControl &control, QWidget *parent, const Look &look) {
     QWidget *widget = widgetOfKind(control, parent, look);
     widget->setStyle(&look.style);
     widget->setAcceptDrops(false); // which text fields do otherwise

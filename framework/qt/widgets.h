@@ -23,7 +23,7 @@ struct Look {
 /// from now on, and handing the user's changes to it under the guard. The control must outlive all
 /// input to the widget; the widget may go first. Whether it is visible and enabled is the window's
 /// affair.
-QWidget *makeWidget(Control &control, QWidget *parent, const Look &look);
+QWidget *makeWidget(RectControl &control, QWidget *parent, const Look &look);
 
 // The widgets of the kinds, without what all kinds share.
 QWidget *makeButton(BevelButton &button, QWidget *parent);

@@ -109,7 +109,7 @@ void WindowPeer::addControls() {
     QFont font = area_->font();
     font.setPixelSize(look_.scale.pixels(Scale::kDesignFont));
     area_->setFont(font);
-    for (Control *control : window_.controls()) {
+    for (RectControl *control : window_.controls()) {
         QWidget *widget = makeWidget(*control, area_, look_);
         placed_.push_back({control, widget});
         for (Property<bool> *state : {&control->Visible, &control->Enabled})

@@ -39,7 +39,7 @@ class WindowPeer : public QWidget {
     QSize sizeInPixels() const;
 
     struct Placed {
-        Control *control;
+        RectControl *control;
         QWidget *widget;
     };
     Window &window_;

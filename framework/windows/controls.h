@@ -27,7 +27,7 @@ using AnyControl =
     std::variant<BevelButton *, PushButton *, CheckBox *, RadioButton *, TextField *, Label *,
                  ProgressBar *, Canvas *, Separator *, PopupArrow *, Listbox *>;
 
-/// A visitor of some kinds, a function each; one that takes a Control * is for all the others.
+/// A visitor of some kinds, a function each; one that takes a RectControl * is for all the others.
 template <class... Functions>
 struct Visitor : Functions... {
     using Functions::operator()...;
@@ -35,12 +35,12 @@ struct Visitor : Functions... {
 template <class... Functions>
 Visitor(Functions...) -> Visitor<Functions...>; // clang 14 does not find it by itself
 
-class Control {
+class RectControl {
   public:
-    Control() = default;
-    virtual ~Control() = default;
-    Control(const Control &) = delete;
-    Control &operator=(const Control &) = delete;
+    RectControl() = default;
+    virtual ~RectControl() = default;
+    RectControl(const RectControl &) = delete;
+    RectControl &operator=(const RectControl &) = delete;
 
     virtual AnyControl kind() = 0;
 
@@ -70,7 +70,7 @@ class Control {
 };
 
 /// A button that does something when it is pressed.
-class Button : public Control {
+class Button : public RectControl {
   public:
     std::string Caption;
     std::function<void()> Action;
@@ -90,7 +90,7 @@ class PushButton : public Button {
     AnyControl kind() override { return this; }
 };
 
-class CheckBox : public Control {
+class CheckBox : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
@@ -99,7 +99,7 @@ class CheckBox : public Control {
 };
 
 /// One of its window's radio buttons: turning one on turns the others off. All may be off.
-class RadioButton : public Control {
+class RadioButton : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
@@ -109,7 +109,7 @@ class RadioButton : public Control {
 
 enum class Alignment { left = 0, centred = 2 };
 
-class TextField : public Control {
+class TextField : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
@@ -117,7 +117,7 @@ class TextField : public Control {
     Alignment alignment = Alignment::left;
 };
 
-class Label : public Control {
+class Label : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
@@ -128,7 +128,7 @@ class Label : public Control {
     Alignment alignment = Alignment::left;
 };
 
-class ProgressBar : public Control {
+class ProgressBar : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
@@ -137,31 +137,31 @@ class ProgressBar : public Control {
 };
 
 /// A picture: the name of one of the application's own, drawn in the control's area.
-class Canvas : public Control {
+class Canvas : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
     std::string Backdrop;
 };
 
-class Separator : public Control {
+class Separator : public RectControl {
   public:
     AnyControl kind() override { return this; }
 };
 
 /// A disclosure arrow.
-class PopupArrow : public Control {
+class PopupArrow : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
     static constexpr int kRight = 0; // folded
     static constexpr int kDown = 3;  // unfolded
     Property<int> Facing{kRight};
-    /// Gives true when it claims the press for itself.
+    /// True claims the press, and with it the MouseUp, which no control here has.
     std::function<bool()> MouseDown;
 };
 
-class Listbox : public Control {
+class Listbox : public RectControl {
   public:
     AnyControl kind() override { return this; }
 };

@@ -26,7 +26,7 @@ void Window::Close() {
         letGo();
 }
 
-void Window::add(Control &control, const char *name, int left, int top, int width, int height) {
+void Window::add(RectControl &control, const char *name, int left, int top, int width, int height) {
     control.Name = name;
     control.Left = left;
     control.Top = top;
@@ -42,7 +42,7 @@ void Window::joinRadioButtons(RadioButton &button) {
     button.Value.tied = [this, &button] {
         if (!button.Value)
             return;
-        for (Control *control : controls_) {
+        for (RectControl *control : controls_) {
             const AnyControl kind = control->kind();
             const auto *other = std::get_if<RadioButton *>(&kind);
             if (other != nullptr && *other != &button)

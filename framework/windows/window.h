@@ -34,7 +34,7 @@ class Window {
     bool MenuBarVisible = true;
     const struct MenuBar *MenuBar = nullptr; // shared, not owned
 
-    const std::vector<Control *> &controls() const { return controls_; }
+    const std::vector<RectControl *> &controls() const { return controls_; }
 
     /// Event_Open under the guard. Once, when all controls are there and before the window is
     /// shown.
@@ -55,12 +55,12 @@ class Window {
     virtual void Event_Close() {}
 
     /// Puts a control, a member of the window, after the others in the tab order.
-    void add(Control &control, const char *name, int left, int top, int width, int height);
+    void add(RectControl &control, const char *name, int left, int top, int width, int height);
 
   private:
     void joinRadioButtons(RadioButton &button);
 
-    std::vector<Control *> controls_;
+    std::vector<RectControl *> controls_;
 };
 
 } // namespace norvane

@@ -29,7 +29,7 @@ class MainWindow : public Desk {
     void expectWidgets(int height) {
         const QRect view(0, 0, 586, height);
         EXPECT_EQ(at("Canvas1")->parentWidget()->size(), view.size());
-        for (const Control *control : window().controls()) {
+        for (const RectControl *control : window().controls()) {
             SCOPED_TRACE(control->Name);
             const auto *widget = at(control->Name.c_str());
             ASSERT_NE(widget, nullptr);

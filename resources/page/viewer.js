@@ -412,7 +412,7 @@ function switchesOf(film, change) {
     const group = make('div', {className: 'switches', role: 'group', 'aria-label': 'Show only lines with these findings'});
     for (const kind of film.kinds || []) {
         const count = film.counts.get(kind.kind) || 0;
-        const button = make('button', {type: 'button', className: kind.severity, title: kind.help || '', 'aria-pressed': 'false', 'data-kind': kind.kind},
+        const button = make('button', {type: 'button', className: kind.severity, title: `Show these alone (${kind.severity})`, 'aria-pressed': 'false', 'data-kind': kind.kind},
             signOf(kind.severity), kind.title, kSigns[kind.kind] ? make('span', {className: 'by', 'aria-hidden': 'true'}, kSigns[kind.kind]) : null,
             make('b', {}, count.toLocaleString('en')));
         button.addEventListener('click', () => {

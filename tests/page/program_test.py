@@ -103,7 +103,7 @@ def films_come_in_by_every_way():
     driver.find_element(By.CSS_SELECTOR, '#paste-form [type=submit]').click()
     wait(lambda: len(states()) == 5 and states()[4].startswith('refused: This SCC file'), 'pasted text')
     refusal = driver.find_element(By.CLASS_NAME, 'refusal').text
-    for part in 'Line 2:', 'It needs to have a tab', 'put a tab after the timecode':
+    for part in 'Line 2:', 'It needs to have a tab', 'instead of a tab':
         assert part in refusal, refusal
     names = [row.text for row in driver.find_elements(By.CSS_SELECTOR, '#rows th')]
     same('the list', names, ['show.scc', 'notes.txt', hostile, 'show.scc', 'pasted.scc'])
@@ -147,9 +147,10 @@ def work_can_be_stopped():
     take(work / 'endless.scc', work / 'long.scc')
     wait(lambda: driver.find_element(By.ID, 'progress').get_attribute('value') and driver.find_element(By.ID, 'stop').is_displayed(), 'progress')
     click('stop')
-    wait(lambda: states() == ['stopped', 'stopped'], 'stopped')
+    wait(lambda: [state[:8] for state in states()] == ['stopped;'] * 2, 'stopped')
     press(']')
     wait(lambda: states()[-1].startswith('too large to explain'), 'a film behind the stop')
+    wait(lambda: 'Its transcript is complete' in text('view'), 'what is not shown')
     driver.find_element(By.CSS_SELECTOR, '#rows .off button').click()
     same('20 MB', driver.execute_async_script(ANSWERS, 'transcript', 0, 0)[0], hashlib.sha256(companion('long.scc').stdout).hexdigest())
 
@@ -159,6 +160,19 @@ def nothing_else_is_allowed():
          ['base-uri', 'connect-src', 'frame-src', 'img-src', 'script-src', 'script-src-elem', 'style-src-elem', 'worker-src'])
     console(driver), requests(driver)  # which told of the attempts
     driver.get(page.as_uri())
+
+
+def a_corrected_film_is_taken_again():
+    film = work / 'wrong.scc'
+    film.write_text('Header\n00:00:01:00 9420')
+
+    def correct_and_choose():
+        film.write_text('Header\n00:00:01:00\t9420\n')
+        driver.find_element(By.CSS_SELECTOR, '#rows th button').click()
+
+    for step, state in (lambda: take(film), 'refused: This SCC'), (correct_and_choose, 'refused: This file cannot be read'), (lambda: take(film), 'ready'):
+        step()
+        wait(lambda: [each[:len(state)] for each in states()] == [state], state)
 
 
 def answers_are_the_companions():
@@ -193,7 +207,7 @@ threading.Thread(target=server.serve_forever, daemon=True).start()
 served = f'http://localhost:{server.server_port}/{page.name}'
 with chromium(downloads=work / 'downloads') as driver:
     for scenario, address in ((films_come_in_by_every_way, page.as_uri()), (transcripts_go_out, page.as_uri()), (transcripts_go_into_a_folder, served),
-                              (work_can_be_stopped, page.as_uri()), (nothing_else_is_allowed, page.as_uri()), (answers_are_the_companions, page.as_uri())):
+                              (work_can_be_stopped, page.as_uri()), (nothing_else_is_allowed, page.as_uri()), (a_corrected_film_is_taken_again, page.as_uri()), (answers_are_the_companions, page.as_uri())):
         driver.get(address)
         scenario()
         same('console', console(driver), [])

@@ -17,10 +17,15 @@ const transcriptName = (film) => `${film.name.split('.', 1)[0]}.txt`;
 
 /** Puts files on the list and looks into them. */
 function addFilms(files) {
-    const added = files.map((file) => ({id: ++lastFilm, name: file.name, file}));
+    const added = files.map((file) => {
+        const lost = films.find((film) => film.isLost && film.name === file.name);
+        return Object.assign(lost || {}, {id: ++lastFilm, name: file.name, file, isLost: false});
+    });
     for (const film of added) {
-        films.push(film);
-        makeRow(film);
+        if (!film.row) {
+            films.push(film);
+            makeRow(film);
+        }
         setState(film, 'waiting');
     }
     if (added.length === 0) return;
@@ -38,12 +43,13 @@ async function attempt(film, action) {
     } catch (failure) {
         if (failure instanceof Refused) refuse(film, failure.problem);
         else if (!(failure instanceof Stopped)) setState(film, `failed: ${failure.message}`, 'error');
-        else if (failure.byUser && !film.summary) setState(film, 'stopped');
+        else if (failure.byUser && !film.summary) setState(film, 'stopped; click on the name to start again');
         return false;
     }
 }
 
-function refuse(film, {text, help, line, around}) {
+function refuse(film, {text, help, line, around, isLost = false}) {
+    film.isLost = isLost; // until it is taken again
     if (film.refused && !around) return; // more has been told already
     film.refused = true;
     setState(film, `refused: ${text}`, 'error');
@@ -118,7 +124,10 @@ function choose(film) {
     chosen?.row.classList.remove('chosen');
     chosen = film;
     shown = null;
-    if (film) film.refused = false;
+    if (film) {
+        film.refused = false;
+        if (!film.summary) setState(film, 'waiting');
+    }
     part('main').hidden = !film;
     document.title = film ? `${film.name} – Norvane` : 'Norvane';
     part('transcript').hidden = true;
@@ -153,7 +162,12 @@ function showView() {
     const line = Number(part('view').querySelector('[aria-current]')?.id.replace('line-', ''));
     return film && attempt(film, async () => {
         const data = await look(film);
-        if (film !== chosen || data.isTooLarge) return;
+        if (film !== chosen) return;
+        if (data.isTooLarge) {
+            part('view').replaceChildren(make('header', {className: 'film'}, make('h1', {}, film.name)),
+                make('p', {className: 'quiet'}, 'This film has more than 4 MB, too much to explain here. Its transcript is complete: copy or save it.'));
+            return;
+        }
         const focused = document.activeElement;
         const view = showFilm(data, part('view'));
         if (!line) return;

@@ -26,6 +26,8 @@ let held = {id: 0, text: 0}; // the film in memory
 const kTooLarge = {text: 'This file does not fit in the memory of a page.',
     help: 'Split it, or use norvane-transcript, which needs less.', line: 0};
 
+const kLost = {text: 'This file cannot be read. It may have been changed, moved or removed since it was chosen.', help: 'Choose it again.', line: 0, isLost: true};
+
 /** A text of the core; none is there when memory did not suffice. */
 function had(text) {
     if (text === 0) throw new Problem(kTooLarge);
@@ -46,19 +48,24 @@ function textOf(bytes) {
 
 /** The film's bytes in the core's memory. */
 function filmText({id, file}) {
+    const reader = new FileReaderSync();
+    try {
+        reader.readAsArrayBuffer(file.slice(0, 1)); // of a file that was changed nothing can be read: it would be shown as it was
+    } catch {
+        throw new Problem(kLost);
+    }
     if (held.id === id) return held.text;
     release(held.text);
     held = {id: 0, text: 0};
     const text = had(file.size < 2 ** 32 ? core.newText(file.size) : 0);
     try {
-        const reader = new FileReaderSync();
         for (let at = 0; at < file.size; at += kBlock) {
             viewOf(text).set(new Uint8Array(reader.readAsArrayBuffer(file.slice(at, at + kBlock))), at);
             postMessage({progress: null});
         }
     } catch (failure) {
         release(text);
-        throw new Problem({text: 'cannot be read. It may have been changed, moved or removed since it was chosen.', help: 'Choose it again.', line: 0});
+        throw new Problem(kLost);
     }
     held = {id, text};
     return text;

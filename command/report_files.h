@@ -14,8 +14,8 @@ struct Place {
     std::size_t lastLine = 0;
 };
 
-/// Takes FILE[:LINE] or FILE:FIRST-LAST apart. The whole is a file's name when there is a file of
-/// that name. Throws Problem for what is no line of a file that is there.
+/// Splits FILE[:LINE] or FILE:FIRST-LAST. The whole is the name of a file if that exists. Throws
+/// Problem for what is not a line of an existing file.
 Place placeOf(const std::string &argument);
 
 /// Prints explanations of the lines of a file, or of one of them. Throws Problem and FileFailure.

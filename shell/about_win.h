@@ -8,7 +8,7 @@ namespace norvane {
 /// The About window: the picture, the version and a few lines.
 class aboutWin : public Window {
   public:
-    /// The window that exists; made and not yet shown when there is none.
+    /// The one window; created, and not yet shown, if there is none.
     static aboutWin &the();
 
     aboutWin();

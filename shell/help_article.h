@@ -8,7 +8,7 @@ namespace norvane {
 /// page beside the program or where it is installed with it.
 std::string helpArticleAddress();
 
-/// The file: address of an absolute path; what an address may not hold as it is stands as %XX.
+/// The file: address of an absolute path; what an address cannot contain is written as %XX.
 std::string fileAddress(const std::string &path);
 
 } // namespace norvane

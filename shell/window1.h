@@ -16,7 +16,7 @@ namespace norvane {
 /// subject.
 class Window1 : public Window {
   public:
-    /// The window that exists; made, opened and not yet shown when there is none.
+    /// The one window; created and opened, and not yet shown, if there is none.
     static Window1 &the();
 
     /// A window that nobody opened: the controls as designed, no preferences read, nothing on
@@ -104,7 +104,7 @@ class Window1 : public Window {
     void promptForWatchFolder();
     void promptForDestination();
 
-    // Text alone: see decode/timecode.h and decode/letters.h.
+    // Text only: see decode/timecode.h and decode/letters.h.
     static std::string timecodeToSecondsSCC(std::string_view timecode);
     static std::string timeCodeToSeconds(std::string_view timecode);
     static std::string returnTimecode(double seconds);

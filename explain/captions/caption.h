@@ -38,8 +38,8 @@ struct Style {
     bool operator==(const Style &) const = default;
 };
 
-/// A word as sent: the frame of the line's timecode and the word's place in the line. Of a code
-/// that is sent twice it is the first.
+/// A word as sent: the frame of the line's timecode and the word's place in the line. For a code
+/// that is sent twice, the first.
 struct Moment {
     std::int32_t frame; // since 00:00:00:00
     std::uint32_t line; // of the file, from 1
@@ -68,8 +68,8 @@ struct CaptionRow {
 ///   the base row leave it as it is, and its row is that in which it began;
 /// - paint-on: one a painting, from its first character after RDC or on an empty screen until its
 ///   last row is gone. A row that another painting goes on with becomes that one's; a painting
-///   that changes a pop-on caption takes over all of its rows. Each row stands as it was when it
-///   went.
+///   that changes a pop-on caption takes over all of its rows. Each row is kept as it was when it
+///   was removed.
 struct Caption {
     std::size_t number = 0; // in the order of their starts, from 1; 0: never shown
     Service service = Service::cc1;
@@ -102,7 +102,7 @@ std::vector<StyledColumns> stylesOf(const CaptionRow &row);
 /// What a viewer has to read: characters, and the blanks between them, several in a row as one.
 long charactersOf(const Caption &caption);
 
-/// Frames on the screen; nothing when it was never shown or nothing takes it away.
+/// Frames on the screen; nothing when it was never shown or never removed.
 std::optional<long> framesOf(const Caption &caption);
 
 /// The lines that its characters were sent in, each once, rising.

@@ -9,11 +9,11 @@
 namespace norvane {
 
 // What a viewer sees of a line, and when. The timecodes are in the film's own form: of the word
-// that shows a caption, and of the word that takes it away.
+// that shows a caption, and of the word that removes it.
 
-/// "seen 00:00:35;02 to 00:00:38;10, shown by line 9, taken away by line 11", and the like, in
+/// "seen 00:00:35;02 to 00:00:38;10, shown by line 9, removed by line 11", and the like, in
 /// lines of their own, for the captions that a line loads, and for those of other lines that it
-/// shows. With `screen`, rows of the former as they stand on the screen.
+/// shows. With `screen`, rows of the former as they appear on the screen.
 void addSeen(TextReport &report, const FilmCaptions &captions, std::size_t line, bool screen);
 
 /// The captions that a line shows, an object of each in a line of its own.

@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// The captions of a film, found by the lines that they have to do with.
+/// The captions of a film, by the lines that load, show and remove them.
 class FilmCaptions {
   public:
     explicit FilmCaptions(std::string_view film);
@@ -34,7 +34,7 @@ class FilmCaptions {
         bool empty() const { return first == last; }
     };
 
-    /// The captions that a line loaded, those that it shows, and those that it takes away.
+    /// The captions that a line loads, shows and removes.
     Range loadedBy(std::size_t line) const { return of(loaded_, line); }
     Range shownBy(std::size_t line) const { return of(shown_, line); }
     Range removedBy(std::size_t line) const { return of(removed_, line); }

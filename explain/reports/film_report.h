@@ -14,7 +14,7 @@ struct ExplanationOptions {
     bool screen = false; // with pictures of rows
 };
 
-/// Ends a report where another is to follow.
+/// Separates a report from the next.
 inline void endPart(TextReport &report) {
     report.endLine();
 }

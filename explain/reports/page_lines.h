@@ -11,7 +11,7 @@ namespace norvane {
 
 inline constexpr std::string_view kAdvice = "advice"; // the kind of advice that no finding gives
 
-/// Writes the lines of a film, and collects what stands elsewhere.
+/// Writes the lines of a film, and collects what follows them: codes and findings.
 class PageLines {
   public:
     PageLines(JsonWriter &json, const FilmCaptions &captions, const std::vector<Finding> &findings)

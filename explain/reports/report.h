@@ -15,7 +15,7 @@ void addHeader(TextReport &report, std::string_view file, std::size_t line, std:
 void addHeader(JsonWriter &json, std::string_view file, std::size_t line, std::string_view header,
                const std::vector<std::string> &advice);
 
-/// With the captions that have to do with the line; `screen` asks for pictures of their rows.
+/// With the captions that the line loads or shows; `screen` asks for pictures of their rows.
 void add(TextReport &report, std::string_view file, const Explanation &explanation,
          const FilmCaptions &captions, bool screen);
 void add(JsonWriter &json, std::string_view file, const Explanation &explanation,

@@ -8,7 +8,7 @@
 
 namespace norvane {
 
-/// Lines for people, on their way to a terminal. Whatever is added to one comes out harmless
+/// Lines for people, for a terminal. Whatever is added comes out harmless
 /// (isHarmful in text.h), since this is the only way in, for the words of a film, a file's name and
 /// the program's own texts alike.
 class TextReport {

@@ -4,23 +4,21 @@
 
 namespace norvane {
 
-/// Something to know of an entry though the line's words are in order. Advice has its text
-/// alone.
+/// Something to know about an entry although the line's words are in order. Advice has only a text.
 struct EntryRemark {
     enum class Kind {
-        altered, // the chain made something else of words
-        digits,  // words that the chain does not know, so that their digits stay
-        advice,  // all else that a viewer sees in another way
+        altered, // the chain turned words into something else
+        digits,  // words without a row in the chain, which stay as digits
+        advice,  // whatever else a viewer sees differently
     };
     Kind kind = Kind::advice;
     std::uint32_t cause = 0; // the same for remarks of a kind that come about in the same way
     std::size_t word = 0;    // the first of those that it concerns, of the line
     std::size_t count = 0;   // how many
-    std::string text{};      // for the user: what it is, and what to do
+    std::string text{};      // for the user: what it is and what to do
 };
 
-/// Adds what there is to say of a line's entry, the remarks of one kind after those of another, and
-/// a remark that says the same as another only once. Advice only where it is wanted.
+/// Adds the remarks on a line's entry, kind by kind and each once; advice only if wanted.
 void remarkOn(const SccLine &line, const LineWalk &walk, bool wantsAdvice,
               std::vector<EntryRemark> &remarks);
 

@@ -22,11 +22,11 @@ struct Crossing {
 
 /// What became of one or several neighbouring words.
 struct WordFate {
-    std::string_view text{}; // what of the entry comes from them, when it does not from words
+    std::string_view text{}; // what in the entry comes from them, and not from words
                              // before
     bool isBlank = false;    // nothing but blanks comes from them
     bool isShared = false;   // something comes from them
-    std::string kept{};      // those of their digits that stand in the entry as they are
+    std::string kept{};      // those of their digits that are in the entry unchanged
     std::string swallowed{}; // those that a crossing took
 };
 
@@ -40,11 +40,11 @@ enum class WordClass : std::uint8_t {
     other,
 };
 
-/// The way of a data line's hex text to its entry.
+/// Follows a data line's hex text to its entry.
 class LineWalk {
   public:
-    /// Walks a line that is not refused, and that must outlive what is asked about it. May be
-    /// called for one line after another, which saves room.
+    /// Walks a line that is not refused, which must outlive all calls about it. To be called for
+    /// one line after another, so that memory is reused.
     void walk(const SccLine &line);
 
     /// The text of the line's entry, as the transcript has it in the timecode form and the line
@@ -54,10 +54,10 @@ class LineWalk {
     /// By their rows, and by their places in one row.
     const std::vector<Crossing> &crossings() const { return crossings_; }
 
-    /// Whether each word gave its piece by itself.
+    /// Whether each word was decoded by itself.
     bool isPlain() const { return isPlain_; }
 
-    /// Whether digits of a word stay, in a line that is plain.
+    /// Whether digits of a word stay, in a plain line.
     bool keepsDigits(std::size_t word) const;
 
     /// Of a word of the line, by itself. WordClass::other in a line that is not plain, fillers
@@ -67,7 +67,7 @@ class LineWalk {
     /// The fate of `count` words from the word `first` on.
     WordFate fateOf(std::size_t first, std::size_t count) const;
 
-    /// What stands in the entry for the hex text from `start` to before `end`.
+    /// What the entry has for the hex text from `start` to before `end`.
     std::string entryOf(std::size_t start, std::size_t end) const;
 
   private:

@@ -7,12 +7,12 @@
 
 namespace norvane {
 
-/// The entry of a line each of whose words gives its piece by itself, as nearly all do: what became
-/// of a word is then known without a walk.
+/// The entry of a line whose words are each decoded by themselves, as in nearly all lines: what
+/// became of a word is then known without a walk.
 class PlainWords {
   public:
-    /// Takes a hex text; false, and nothing else may be asked, when it needs a walk. May be called
-    /// for one line after another, which saves room.
+    /// Takes a hex text; false, and nothing else may be called, when it needs a walk. To be called
+    /// for one line after another, so that memory is reused.
     bool read(std::string_view hexText);
 
     /// Of the transcript in the timecode form and the line form.
@@ -20,9 +20,9 @@ class PlainWords {
 
     // For `count` words from the word `first` on:
 
-    /// What of the entry comes from them; what they share with words before them is the others'.
+    /// What in the entry comes from them, without what they share with words before them.
     std::string_view textOf(std::size_t first, std::size_t count) const;
-    /// Whether anything in it comes from them, and whether that is but blanks.
+    /// Whether anything in it comes from them, and whether that is only blanks.
     bool isShared(std::size_t first, std::size_t count) const;
     bool isBlank(std::size_t first, std::size_t count) const;
 

@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// A piece of what a line's words say by CEA-608, and where in the hex text it stands.
+/// A piece of what a line's words say by CEA-608, and its place in the hex text.
 struct SaidText {
     std::string text{};
     std::size_t start = 0;
@@ -18,8 +18,8 @@ class SaidLine {
   public:
     explicit SaidLine(const SccLine &line);
 
-    /// The word of the language, or what else stands between blanks and codes, that the characters
-    /// between two places of the hex text, both included, belong to; empty when there are none.
+    /// The word of the language, or whatever is between blanks and codes, to which the characters
+    /// between two places of the hex text, both included, belong; empty when there are none.
     SaidText around(std::size_t first, std::size_t last) const;
 
     /// All of it, with a blank for what has no character.

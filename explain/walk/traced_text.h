@@ -10,9 +10,9 @@
 
 namespace norvane {
 
-// A line's text goes through some twenty changes, and for each digit of the line somebody may ask
-// what became of it. The changes keep the order of what they leave, and none puts in more bytes
-// than it takes. So a byte needs no history: it comes from all of the source between two places,
+// A line's text goes through some twenty changes, and an explanation may ask what became of
+// each digit. The changes keep the order of what they leave, and none inserts more bytes than it
+// removes. So a byte needs no history: it comes from all of the source between two places,
 // but for what was deleted in between, and both places never fall from one byte to the next.
 
 /// A text that is changed step by step and whose bytes know where in its source they come from.

@@ -11,15 +11,15 @@
 #include <string_view>
 #include <vector>
 
-/// What the program asks of the file system. Paths are absolute, UTF-8, or whatever bytes the
-/// system has. Links are followed as `links` says, trusted ones where nothing does. Nothing here
-/// blocks on a FIFO or a device.
+/// The program's access to the file system. Paths are absolute, in UTF-8 or whatever bytes the
+/// system has. Links are followed as `links` says; the default is trusted ones. Nothing here blocks
+/// on a FIFO or a device.
 namespace norvane::disk {
 
 enum class Kind { missing, file, folder, foreignLink, other };
 
-/// What stands at `path`; missing also when a folder on the way is. Throws FileFailure when that
-/// cannot be determined, as with a failing disk.
+/// The kind of what is at `path`; `missing` also when a folder on the way is. Throws FileFailure
+/// when that cannot be determined, as with a failing disk.
 Kind kindOf(const std::string &path, Links links = Links::trusted);
 
 /// The same, but `unknown` when it cannot be determined.
@@ -43,23 +43,23 @@ void makeFolders(const std::string &path, Links links = Links::trusted);
 
 class InputFile;
 
-/// Removes a file, or a link to it, as long as `read` is still what stands there. Whether it worked
+/// Removes a file, or a link to it, if `read` is still what is there. Whether it worked
 /// is not reported.
 void remove(const std::string &path, const InputFile &read);
 
 /// A lock, held for as long as a copy of this lives; null where there is none.
 using FolderLock = std::shared_ptr<const void>;
 
-/// Keeps the user's other programs that ask for the same out of a folder, and nobody else: what is
-/// locked is a file in the user's folder for preferences. Asked again, this program gets it again.
-/// nullopt when another program has it; null where nothing can be locked: nobody is kept out then.
+/// Locks a folder against other programs of the same user that call this, and nobody else: what is
+/// locked is a file in the user's folder for preferences. A second call of this program succeeds.
+/// nullopt when another program has the lock; null where nothing can be locked.
 std::optional<FolderLock> lockFolder(const std::string &path);
 
 /// The per-user folder for preferences, not ending in a separator; empty when the user has none:
 /// without a home, or without a full path to it.
 std::string preferencesFolder();
 
-/// The per-user folder for what can be made anew, as preferencesFolder.
+/// The per-user folder for what can be recreated, in the form of preferencesFolder.
 std::string cacheFolder();
 
 /// The folder of the running program, not ending in a separator; empty when it is unknown.
@@ -71,21 +71,21 @@ class InputFile {
     /// Opens a regular file. Throws FileFailure.
     explicit InputFile(const std::string &path, Links links = Links::trusted);
 
-    /// Opens what a person names for reading, as any program does: links are followed, a relative
-    /// path is one, and a pipe or a device is read to its end, if it has one. Throws FileFailure,
+    /// Opens for reading what a person names: links are followed, the path may be relative, and a
+    /// pipe or a device is read to its end, if it has one. Throws FileFailure,
     /// also for a folder.
     static InputFile named(const std::string &path);
     static InputFile standardInput();
 
     bool isRegular() const { return place_.isFile(); }
 
-    /// Whether it is what stands at `place`: written to since or not, but no other file.
+    /// Whether it is still the file at `place`, even if that was written to since.
     bool isAt(const Place &place) const;
 
     /// Fills the rest of `bytes`, or some of it; false at the end of the file. Throws FileFailure.
     bool readSome(Bytes &bytes);
 
-    /// All that is left of a regular file. Throws FileFailure.
+    /// The rest of a regular file. Throws FileFailure.
     Bytes readAll();
 
     /// The size in bytes when it was opened, 0 for a pipe; less may be there to read if it shrinks.
@@ -94,19 +94,19 @@ class InputFile {
     /// Its permission bits when it was opened, those for reading, writing and executing.
     mode_t permissions() const { return place_.permissions(); }
 
-    /// Makes its bytes and its name last through a power failure. Throws FileFailure.
+    /// Makes its bytes and its name durable through a power failure. Throws FileFailure.
     void flush();
 
   private:
     InputFile(const std::string &path, Handle handle);
 
     std::string path_;
-    Place place_; // of what was not opened by its place, the status alone
+    Place place_; // only its status, if it was not opened by its place
     Handle handle_;
     std::size_t left_ = 0;
 };
 
-/// Whether something can be read from standard input that nobody types.
+/// Whether standard input is a pipe or a file, not a keyboard.
 bool standardInputIsPiped();
 
 /// Who may read and write a new file.
@@ -115,15 +115,14 @@ enum class Readers { byUmask, userAlone };
 /// Whether a file must last through a power failure when it is said to be written.
 enum class Lasting { no, yes };
 
-/// A file that comes into being whole or not at all: written beside its target without a name where
-/// the system allows that, and put in the target's place at the end. When it is destroyed before,
-/// the target stays as it was and nothing is left behind. What a killed process leaves is a file
-/// ".norvane-*.part" at most, which the next process to write in that folder removes.
+/// A file that is created completely or not at all: written next to its target, without a name
+/// where the system allows that, and then put in the target's place. Destroyed before that, it
+/// leaves the target unchanged and no other file. A killed process leaves at most a file
+/// ".norvane-*.part", which the next process that writes to that folder removes.
 class NewFile : public TextSink {
   public:
-    /// Begins a file for `path`. A regular file that stands there must be writable and leaves its
-    /// permission bits to the new one; `readers` is for a file where there was none. Throws
-    /// FileFailure.
+    /// Begins a file for `path`. A regular file that is there must be writable, and the new one
+    /// gets its permission bits; `readers` applies where there was none. Throws FileFailure.
     NewFile(const std::string &path, Readers readers, Links links = Links::trusted);
 
     /// Begins a copy for `path` with these permission bits, whatever those of a file there are.
@@ -134,17 +133,17 @@ class NewFile : public TextSink {
     NewFile(const NewFile &) = delete;
     NewFile &operator=(const NewFile &) = delete;
 
-    /// Whether it would take the place of `input`, under this name or another.
+    /// Whether it would replace `input`, under this name or another.
     bool replaces(const InputFile &input) const { return input.isAt(place_); }
 
-    /// From here on it takes no other file's place: if one has come there, `commit` fails.
+    /// From here on it replaces no file: if the target exists by then, `commit` fails.
     void mustBeNew() { isNew_ = true; }
 
     /// Throws FileFailure when not all could be written.
     void write(std::string_view bytes) override;
 
-    /// Takes the target's place, and lasts. Throws FileFailure: the old target then stays, unless
-    /// all that failed was to make the new one's name last.
+    /// Replaces the target durably. Throws FileFailure: the old target then remains, unless only
+    /// making the new name durable failed.
     void commit() override { finish(Lasting::yes); }
 
     void finish(Lasting lasting);
@@ -158,7 +157,7 @@ class NewFile : public TextSink {
     void takePlace();
     void takeFreePlace();
     bool linkTo(const std::string &name) const;
-    std::string openFile() const; // a path of it that is not its name
+    std::string openFile() const; // a path to it other than its name
     [[noreturn]] void fail(int error);
 
     std::string path_;
@@ -180,8 +179,8 @@ void surviveSizeLimits();
 /// Writes all of `bytes` to an open descriptor. Throws FileFailure, naming `what`.
 void writeAll(int handle, std::string_view bytes, const std::string &what);
 
-/// Makes the names in a folder last through a power failure, as far as the file system can. Throws
-/// FileFailure, naming `what`, when its disk fails.
+/// Makes the names in a folder durable through a power failure, as far as the file system can.
+/// Throws FileFailure, naming `what`, when its disk fails.
 void flushNames(const Place &place, const std::string &what);
 
 } // namespace norvane::disk

@@ -16,13 +16,13 @@ class FileFailure : public IOException {
     /// `error` is the system's.
     FileFailure(FileCall call, const std::string &file, int error);
 
-    /// For what is no regular file; `what` ends a sentence that begins with the file.
+    /// For what is not a regular file; `what` ends a sentence that begins with the file.
     FileFailure(FileCall call, const std::string &file, const std::string &what);
 
     FileCall call() const { return call_; }
     const std::string &file() const { return file_; }
 
-    /// The system's error; 0 for what is no regular file.
+    /// The system's error; 0 for what is not a regular file.
     int error() const { return error_; }
 
     /// The sentence that follows the name of the file.

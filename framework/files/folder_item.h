@@ -17,22 +17,22 @@ namespace norvane {
 /// power failure from the start.
 enum class CopyOf { whatStays, whatGoes };
 
-/// What becomes of a file that has the name of a new one when that is closed.
+/// What happens to an existing file when a new one of its name is closed.
 enum class Existing { replaced, stays };
 
 /// A place in the file system, where something may or may not exist. Paths and their names hold
-/// UTF-8; other bytes in them pass unchanged. Which symbolic links are followed is settled when an
-/// item is made; its items and children have that from it.
+/// UTF-8; other bytes in them pass unchanged. Which symbolic links are followed is decided when an
+/// item is made; its items and children inherit that.
 class FolderItem {
   public:
-    /// The item at an absolute path; GetFolderItem and Child are the ways to have one.
+    /// The item at an absolute path; made by GetFolderItem and Child.
     explicit FolderItem(const std::string &path, Links links = Links::trusted);
 
     /// The last part of the path, extension included.
     std::string Name() const;
 
     /// The whole path; that of a folder ends in the separator. Throws IOException when it cannot be
-    /// told whether it is one, as with a failing disk.
+    /// determined whether it is one, as with a failing disk.
     std::string AbsolutePath() const;
 
     /// False when there is nothing, or no folder that could hold it, or another user's link where
@@ -42,17 +42,18 @@ class FolderItem {
     /// True for a folder. Throws IOException when that cannot be determined.
     bool Directory() const;
 
-    /// How many items the folder holds, hidden ones included; 0 when it is none or may not
-    /// be listed. The listing is taken once, when Count or Item is first asked, and kept. Both
-    /// throw IOException when the disk fails in it.
+    /// How many items the folder holds, hidden ones included; 0 when it is not a folder or
+    /// cannot be listed. The listing is taken once, at the first call of Count or Item, and kept.
+    /// Both throw IOException when the disk fails in it.
     std::size_t Count() const;
 
     /// The item of an index from 1 to Count, in the order of the names' bytes; nil outside.
     Ref<FolderItem> Item(std::size_t index) const;
 
     /// What is named `name` in this folder, existing or not. Nil when this is no folder, for a name
-    /// that is empty, "." or ".." or has a separator or a NUL in it, and for one that another
-    /// user's link has. Throws IOException when it cannot be determined whether this is a folder.
+    /// that is empty, "." or ".." or has a separator or a NUL in it, and for the name of
+    /// another user's link. Throws IOException when it cannot be determined whether this is a
+    /// folder.
     Ref<FolderItem> Child(std::string_view name) const;
 
     /// Makes the folder. Whether it worked is not reported.
@@ -76,11 +77,11 @@ class FolderItem {
     /// user gives to new files. Where a file is there and stays, closing the stream fails.
     Ref<TextOutputStream> CreateTextFile(Existing existing = Existing::replaced) const;
 
-    /// The same, but a file where there was none is for its user's eyes alone.
+    /// The same, but a new file is readable by its user only.
     Ref<TextOutputStream> CreatePrivateTextFile() const;
 
-    /// A stream over the file's text; nil for whatever is no regular file that the user may read.
-    /// The text is read when the stream is first asked for it. Both throw IOException when the disk
+    /// A stream over the file's text; nil unless it is a regular file that the user may read. The
+    /// text is read at the first call of the stream. Both throw IOException when the disk
     /// fails.
     Ref<TextInputStream> OpenAsTextFile() const;
 
@@ -95,7 +96,7 @@ class FolderItem {
 
 /// The item at an absolute path; `mode` is 0, absolute path; `links` is `all` for what a person
 /// picked. Nil when the path is empty or not
-/// absolute or holds a NUL, or its folder is missing; what cannot be looked at, as on a failing
+/// absolute or holds a NUL, or its folder is missing; what cannot be examined, as on a failing
 /// disk, counts as existing here, and its use fails.
 Ref<FolderItem> GetFolderItem(const std::string &path, int mode = 0, Links links = Links::trusted);
 

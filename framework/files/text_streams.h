@@ -13,17 +13,17 @@ namespace disk {
 class InputFile;
 } // namespace disk
 
-/// A text file's content, given line by line. The whole file is in memory, from the first question
-/// on: that is when it is read, so that whoever opened it may first tell the user.
+/// A text file's content, given line by line. The whole file is in memory from the first call on:
+/// it is read then, so that the user can be shown a message first.
 class TextInputStream {
   public:
     explicit TextInputStream(Bytes bytes) : bytes_(std::move(bytes)), lines_(bytes_.view()) {}
 
-    /// Reading fails, with what InputFile throws, at the first question.
+    /// Reading fails, with what InputFile throws, at the first call.
     explicit TextInputStream(std::shared_ptr<disk::InputFile> file)
         : file_(std::move(file)), isUnread_(true) {}
 
-    /// The file that was opened, for as long as this lives; null where there is none.
+    /// The file that was opened, for as long as this lives; null if there is none.
     const disk::InputFile *file() const { return file_.get(); }
 
     /// The next line without its ending (LF, CR or CRLF, in any mixture); what follows the

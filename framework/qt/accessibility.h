@@ -10,7 +10,7 @@ namespace norvane {
 /// is done from the event loop, and only where its user could do it as well.
 void tellRole(QWidget *widget, QAccessible::Role role);
 
-/// Tells whether a button, which has been made known, shows what it unfolds.
+/// Reports whether a button that was made known is expanded.
 void tellExpanded(QWidget *button, bool expanded);
 
 } // namespace norvane

@@ -12,7 +12,7 @@
 
 namespace norvane {
 
-/// The modal dialogs. Each stands before the active window, or alone when there is none, and blocks
+/// The modal dialogs. Each is in front of the active window, if there is one, and blocks
 /// until the user has answered.
 class Dialogs {
   public:

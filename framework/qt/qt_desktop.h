@@ -39,7 +39,7 @@ class QtDesktop : public Desktop {
     /// The window on screen; null for one that is not shown.
     QWidget *peerOf(const Window &window) const;
 
-    /// Closes all windows and ends the event loop, once the action at work has ended.
+    /// Closes all windows and ends the event loop, once the running action has ended.
     void quit();
 
     /// Lets TERM, INT and HUP end the program as quit does; dialogs that an action waits for are

@@ -9,7 +9,7 @@
 
 namespace norvane {
 
-/// Milliseconds until what has to wait for an action's end asks again.
+/// Milliseconds between checks of what waits for the end of an action.
 inline constexpr int kAskAgain = 50;
 
 /// What all windows of a desktop share.

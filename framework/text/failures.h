@@ -12,7 +12,7 @@ class RuntimeException : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Use of an object that could not be had.
+/// Use of an object that could not be obtained.
 class NilObjectException : public RuntimeException {
   public:
     using RuntimeException::RuntimeException;

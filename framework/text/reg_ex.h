@@ -5,8 +5,8 @@
 
 namespace norvane {
 
-/// A pattern that texts are searched for: case is ignored, and a match may stand anywhere. For
-/// texts of any kind, UTF-8 or not; nothing is thrown.
+/// A pattern that texts are searched for: case is ignored, and a match may be anywhere. Takes
+/// any text, UTF-8 or not; throws nothing.
 struct RegEx {
     /// Well formed, of these: "." for any character, "\d" for an ASCII digit, "[^...]" for any
     /// character but those, "\" before a character for that character, and others for themselves.

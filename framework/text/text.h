@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-/// Text operations. Text is UTF-8; a byte that is no valid UTF-8 passes unchanged and is a
-/// character of its own. "Ignoring case" concerns the ASCII letters only. Nothing here depends on
+/// Text operations. Text is UTF-8; a byte that is not valid UTF-8 passes unchanged and is a
+/// character of its own. "Ignoring case" applies to ASCII letters only. Nothing here depends on
 /// the C locale, and nothing throws unless its comment says so.
 namespace norvane {
 
@@ -21,8 +21,8 @@ inline constexpr std::string_view EndOfLine = "\n";
 #endif
 
 /// The leading number of `text`: sign, digits, fraction, exponent, as far as they go; 0 when it
-/// starts with none (a leading blank, "inf", "nan" and hex forms are none). What is beyond
-/// a double's range is infinite, what is too small for one is 0.
+/// starts with none (a leading blank, "inf", "nan" and hex forms do not count). What exceeds the
+/// range of a double is infinite, what is too small for one is 0.
 double Val(std::string_view text);
 
 /// `value` rounded to seven significant digits, without zeros at the end, with an exponent when it
@@ -44,7 +44,7 @@ TextArray Split(std::string_view text, std::string_view delimiter);
 std::string Replace(std::string_view text, std::string_view find, std::string_view with);
 
 /// `text` with every occurrence of `find` replaced, ignoring case: left to right, without overlap,
-/// not looking again at what was put in. An empty `find` changes nothing.
+/// not searching what was inserted. An empty `find` changes nothing.
 std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view with);
 
 /// ReplaceAll byte by byte, so that case counts.
@@ -65,7 +65,7 @@ std::size_t characterSize(std::string_view text);
 /// True when every byte of `text` is ASCII, so that its bytes are its characters.
 bool isAscii(std::string_view text);
 
-/// Whether a character is one that a terminal or a page may obey in place of showing it: a control
+/// Whether a terminal or a page may act on a character instead of showing it: a control
 /// character of ASCII or from U+0080 to U+009F, a single byte of that range, the separators U+2028
 /// and U+2029, and the marks that turn the direction of text.
 bool isHarmful(std::string_view character);
@@ -77,7 +77,7 @@ void appendPrintable(std::string &result, std::string_view text);
 /// A name or path in quotation marks for a message, control characters replaced.
 std::string inQuotes(std::string_view text);
 
-/// The same of a text's first 40 characters, with "…" when there are more.
+/// The same for a text's first 40 characters, with "…" when there are more.
 std::string startInQuotes(std::string_view text);
 
 /// The character with the ASCII code `code`.

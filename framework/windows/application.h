@@ -11,7 +11,7 @@ namespace norvane {
 /// The application object: the shared menu bar and the handlers of its items.
 class Application {
   public:
-    /// A handler gives true when it claims the command for itself.
+    /// A handler returns true when it claims the command.
     using MenuHandler = std::function<bool()>;
 
     Application() = default;
@@ -25,8 +25,7 @@ class Application {
     /// Raised before menus are shown.
     virtual void Event_EnableMenuItems() {}
 
-    /// Binds a handler to the items named `itemName`, of which there may be none, in the place of
-    /// an earlier one.
+    /// Binds a handler to the items named `itemName`, if there are any, instead of an earlier one.
     void _AddMenuHandler(const std::string &itemName, MenuHandler handler); // NOLINT: as named
 
     /// Runs the handler of a name, under the guard; a name without one does nothing.

@@ -27,7 +27,7 @@ using AnyControl =
     std::variant<BevelButton *, PushButton *, CheckBox *, RadioButton *, TextField *, Label *,
                  ProgressBar *, Canvas *, Separator *, PopupArrow *, Listbox *>;
 
-/// A visitor of some kinds, a function each; one that takes a RectControl * is for all the others.
+/// A visitor of some kinds, a function each; one for RectControl * takes all others.
 template <class... Functions>
 struct Visitor : Functions... {
     using Functions::operator()...;
@@ -52,10 +52,10 @@ class RectControl {
     Property<bool> Visible{true};
     Property<bool> Enabled{true};
 
-    /// What a screen reader says where there is no caption, or one that does not speak for itself.
+    /// What a screen reader says where the caption is missing or says too little.
     std::string accessibleName;
 
-    /// What there is to know about the control's present state; empty when that speaks for itself.
+    /// A description of the control's present state; empty when none is needed.
     Property<std::string> hint;
 
     /// Repaints the control: at once, without going back to the event loop, when `immediately`.
@@ -121,7 +121,7 @@ class Label : public RectControl {
   public:
     AnyControl kind() override { return this; }
 
-    Property<std::string> Text; // "\r" parts its lines
+    Property<std::string> Text; // lines end in "\r"
     int TextSize = 0;           // pixels at 100 %; 0 is the system font's size
     bool grey = false;          // red, green and blue all 128
     bool multiline = false;
@@ -136,7 +136,7 @@ class ProgressBar : public RectControl {
     Property<int> Maximum{100};
 };
 
-/// A picture: the name of one of the application's own, drawn in the control's area.
+/// One of the application's pictures, by name, drawn in the area of the control.
 class Canvas : public RectControl {
   public:
     AnyControl kind() override { return this; }

@@ -9,8 +9,7 @@ namespace norvane {
 /// empty `action` does nothing.
 void guarded(const std::function<void()> &action);
 
-/// Whether an action has begun and not ended: whoever asks for another one meanwhile, or for the
-/// end of a window, has to wait.
+/// Whether an action is running: other actions, and the end of a window, have to wait for it.
 bool actionAtWork();
 
 } // namespace norvane

@@ -8,8 +8,8 @@ namespace norvane {
 enum class MenuKind {
     plain,
     separator,
-    QuitMenuItem, // stands where the platform keeps Quit
-    PrefsMenuItem // stands where the platform keeps its settings item
+    QuitMenuItem, // placed where the platform has Quit
+    PrefsMenuItem // placed where the platform has its settings
 };
 
 /// An item of a menu, or a menu with its items. "&" marks the access letter.

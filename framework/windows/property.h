@@ -7,9 +7,9 @@
 
 namespace norvane {
 
-/// A value that can be watched. An assignment that changes it first brings what is on screen in
-/// step, then what the framework ties to it, and then raises the action, under a guard of its own:
-/// a failure in it is reported and ends it there, and who made the assignment goes on. An
+/// A value that can be watched. An assignment that changes it first updates the screen, then what
+/// the framework ties to it, and then raises the action, under a guard of its own: a failure in it
+/// is reported and ends it there, and the caller goes on. An
 /// assignment that changes nothing does nothing.
 template <class T>
 class Property {
@@ -38,7 +38,7 @@ class Property {
     std::function<void()> shown;
     /// The framework's own observer: a radio button's group, a timer's wait.
     std::function<void()> tied;
-    /// The program's observer, and its alone: the control's action.
+    /// The program's observer: the control's action.
     std::function<void()> changed;
 
   private:

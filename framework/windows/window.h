@@ -43,11 +43,11 @@ class Window {
     /// Puts the window on screen, or in front when it is there.
     void Show();
 
-    /// Event_Close under the guard, then the end of the window: the one who keeps it lets go of it,
-    /// and `this` is gone when Close returns.
+    /// Event_Close under the guard, then the end of the window: its owner deletes it, so that
+    /// `this` is gone when Close returns.
     void Close();
 
-    /// Set by who keeps the window: called at the end of Close.
+    /// Set by the owner: called at the end of Close.
     std::function<void()> closed;
 
   protected:

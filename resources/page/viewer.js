@@ -757,7 +757,7 @@ function showFilms(films, root) {
         make('div', {className: 'films'}, make('table', {}, make('thead', {}, make('tr', {}, heads)), body)));
 }
 
-// A page brings its data along; where there is none, somebody else calls.
+// A page contains its data; without any, the page around this script calls showFilm.
 for (const [id, show] of [['film', showFilm], ['films', showFilms]]) {
     const data = document.getElementById(id);
     if (data) show(JSON.parse(data.textContent), document.getElementById('view'));

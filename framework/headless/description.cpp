@@ -9,7 +9,7 @@ namespace norvane {
 
 namespace {
 
-std::string quoted(const std::string &text) {
+std::string withQuotes(const std::string &text) {
     return " \"" + ReplaceAllB(text, "\r", "\\r") + "\"";
 }
 
@@ -36,11 +36,11 @@ std::string designOf(RectControl &control) {
     return std::visit(
         Visitor{
             [](BevelButton *button) {
-                return "BevelButton" + numbers({button->Bevel}) + quoted(button->Caption);
+                return "BevelButton" + numbers({button->Bevel}) + withQuotes(button->Caption);
             },
-            [](PushButton *button) { return "PushButton" + quoted(button->Caption); },
-            [](CheckBox *box) { return "CheckBox" + quoted(box->Caption); },
-            [](RadioButton *button) { return "RadioButton" + quoted(button->Caption); },
+            [](PushButton *button) { return "PushButton" + withQuotes(button->Caption); },
+            [](CheckBox *box) { return "CheckBox" + withQuotes(box->Caption); },
+            [](RadioButton *button) { return "RadioButton" + withQuotes(button->Caption); },
             [&](TextField *field) { return "TextField" + traits({isCentred(field)}); },
             [&](Label *label) {
                 return "Label" + numbers({label->TextSize}) +
@@ -64,8 +64,8 @@ std::string stateOf(RectControl &control) {
         Visitor{
             [](CheckBox *box) { return std::string(box->Value ? " on" : " off"); },
             [](RadioButton *button) { return std::string(button->Value ? " on" : " off"); },
-            [](TextField *field) { return quoted(field->Text); },
-            [](Label *label) { return quoted(label->Text); },
+            [](TextField *field) { return withQuotes(field->Text); },
+            [](Label *label) { return withQuotes(label->Text); },
             [](PopupArrow *arrow) { return " facing" + numbers({arrow->Facing}); },
             [](ProgressBar *bar) {
                 return numbers({bar->Value}) + " of" + numbers({bar->Maximum});
@@ -92,7 +92,7 @@ std::string describe(const Window &window) {
         const std::string &name = control->accessibleName;
         text += control->Name + ": " + designOf(*control) +
                 numbers({control->Left, control->Top, control->Width, control->Height}) +
-                stateOf(*control) + (name.empty() ? "" : ", read as" + quoted(name)) + "\n";
+                stateOf(*control) + (name.empty() ? "" : ", read as" + withQuotes(name)) + "\n";
     }
     return text;
 }

@@ -1,4 +1,4 @@
-#include "command/option_conflicts.h"
+#include "command/options.h"
 
 #include <array>
 

@@ -1,8 +1,6 @@
 #include "command/options.h"
 
-#include "command/option_conflicts.h"
 #include "command/suggestion.h"
-#include "command/usage.h"
 #include "framework/text/text.h"
 
 #include <algorithm>

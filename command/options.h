@@ -39,4 +39,10 @@ struct Options {
 /// Without a file, it is standard input when `inputIsPiped`.
 Options readOptions(int count, char **arguments, bool inputIsPiped);
 
+/// What of it cannot be combined; empty when all can (option_conflicts.cpp).
+std::string conflictIn(const Options &options);
+
+/// What --help prints (usage.cpp).
+std::string usage();
+
 } // namespace norvane

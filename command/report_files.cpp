@@ -2,11 +2,10 @@
 
 #include "command/input.h"
 #include "explain/checks/check.h"
+#include "explain/reports/check_report.h"
 #include "explain/reports/film_report.h"
-#include "explain/reports/finding_report.h"
 #include "explain/reports/json.h"
 #include "explain/reports/report.h"
-#include "explain/reports/summary_report.h"
 #include "framework/files/disk.h"
 #include "framework/text/text.h"
 

@@ -1,6 +1,4 @@
-#include "command/usage.h"
-
-#include "explain/checks/finding_kinds.h"
+#include "command/options.h"
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
 #include "decode/caption.h"
 #include "decode/replacement_chain.h"
 #include "explain/checks/check.h"
-#include "explain/reports/finding_report.h"
+#include "explain/reports/check_report.h"
 #include "explain/reports/report.h"
 #include "framework/text/failures.h"
 #include "tests/support/plain_road.h"

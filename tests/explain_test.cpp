@@ -1,5 +1,5 @@
 #include "explain/checks/check.h"
-#include "explain/reports/finding_report.h"
+#include "explain/reports/check_report.h"
 #include "explain/reports/report.h"
 #include "explain/standard/timecode_frames.h"
 #include "explain/walk/said_text.h"

@@ -1,7 +1,7 @@
 #include "explain/checks/check.h"
 #include "explain/checks/film_transcript.h"
+#include "explain/reports/check_report.h"
 #include "explain/reports/film_report.h"
-#include "explain/reports/finding_report.h"
 #include "explain/reports/page_data.h"
 #include "explain/reports/report.h"
 #include "framework/text/text.h"

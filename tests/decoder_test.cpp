@@ -98,6 +98,7 @@ TEST(Decoder, ShowsWhatAViewerSees) {
         // Loaded and erased, or never shown.
         {"RCL 1470 One ENM 1470 Two", "CC1 pop-on -4@2 15,1 One | CC1 pop-on - 15,1 Two"},
         {"RCL 1470 __ EOC ENM", ""},
+        {"RCL 1470 ab BS ENM", "CC1 pop-on -4@2 15,1 a"},
         {"RCL 1470 A BS ENM 1470 Hi EOC", "CC1 pop-on 7@2- 15,1 Hi"},
         {"RCL 145e wxyz DER 1220 EOC", "CC1 pop-on 6@2- 14,29 wxÁ"},
         // RCL leaves what is on the screen; EDM and ENM select nothing.

@@ -14,8 +14,6 @@ RowSet ScreenMemory::readableRows() const {
 void ScreenMemory::erase(int row, ColumnSet columns) {
     written_[index(row)] &= ~columns;
     printing_[index(row)] &= ~columns;
-    if (printing(row) == 0)
-        fresh_ &= ~(RowSet{1} << row);
 }
 
 void ScreenMemory::clearRow(int row) {

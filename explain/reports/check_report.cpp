@@ -46,19 +46,11 @@ void add(JsonWriter &json, std::string_view file, const Finding &finding) {
         json.member("timecode", std::string_view(finding.timecode));
     if (finding.frame)
         json.member("frame", *finding.frame);
-    json.name("words");
-    json.beginList();
-    for (const std::string &word : finding.words)
-        json.add(word);
-    json.endList();
+    json.listMember("words", finding.words);
     json.member("kind", infoOf(finding.kind).name);
     json.member("severity", nameOf(severityOf(finding)));
     json.member("count", finding.count);
-    json.name("lines");
-    json.beginList();
-    for (const std::size_t line : finding.lines)
-        json.add(line);
-    json.endList();
+    json.listMember("lines", finding.lines);
     json.member("text", std::string_view(finding.text));
     json.endObject();
     json.endLine();

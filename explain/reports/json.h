@@ -37,6 +37,14 @@ class JsonWriter {
         name(called);
         add(value);
     }
+    template <class List>
+    void listMember(std::string_view called, const List &values) {
+        name(called);
+        beginList();
+        for (const auto &value : values)
+            add(value);
+        endList();
+    }
 
     /// Ends a value; the next one stands in a line of its own.
     void endLine();

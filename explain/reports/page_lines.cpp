@@ -92,11 +92,7 @@ void PageLines::add(const Explanation &explanation) {
     addCaptions("seen", captions_.loadedBy(line.number));
     addCaptions("shows", captions_.shownBy(line.number));
     addCaptions("removes", captions_.removedBy(line.number));
-    json_.name("advice");
-    json_.beginList();
-    for (const std::string &text : explanation.advice)
-        json_.add(text);
-    json_.endList();
+    json_.listMember("advice", explanation.advice);
     json_.endObject();
     markFindings(explanation);
 }
@@ -124,11 +120,7 @@ void PageLines::addFindings(bool &hasAdvice) {
         json_.member("timecode", std::string_view(finding.timecode));
         if (finding.frame)
             json_.member("frame", *finding.frame);
-        json_.name("words");
-        json_.beginList();
-        for (const std::string &word : finding.words)
-            json_.add(word);
-        json_.endList();
+        json_.listMember("words", finding.words);
         json_.member("kind", infoOf(finding.kind).name);
         json_.member("severity", nameOf(severityOf(finding)));
         json_.member("text", std::string_view(finding.text));

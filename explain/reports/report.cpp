@@ -88,11 +88,7 @@ void addAdvice(TextReport &report, const std::vector<std::string> &advice) {
 }
 
 void addAdvice(JsonWriter &json, const std::vector<std::string> &advice) {
-    json.name("advice");
-    json.beginList();
-    for (const std::string &text : advice)
-        json.add(text);
-    json.endList();
+    json.listMember("advice", advice);
 }
 
 void addWords(TextReport &report, const Explanation &explanation) {

@@ -28,6 +28,15 @@ Promise.all(films.map((film) => ask(task, film).then(async (bytes) =>
     ({problem: {text, help, line}}) => `${film.name}:${line ? line + ':' : ''} ${text}\\n${help ? `  ${help}\\n` : ''}`))).then(done);
 '''
 
+# Where a button is without work, and with it.
+PLACES = '''
+part('doing').textContent = 'A long name.scc '.repeat(20);
+return [true, false].map((isHidden) => {
+    part('work').hidden = isHidden;
+    return part('save-to-folder').getBoundingClientRect().top;
+});
+'''
+
 # What a script of a hostile film would try, and the rules that forbade it.
 FORBIDDEN = '''
 const [address, done] = arguments;
@@ -121,6 +130,12 @@ def transcripts_go_out():
     same('saved', saved.read_bytes(), expected)
     press('c')
     wait(lambda: text('said') == 'night-train.txt copied.', 'a copied transcript')
+    saved.unlink()
+    # What is being saved is neither ended nor changed by what is chosen meanwhile.
+    driver.execute_script("""showView(); part('save-all').click(); document.querySelector('[name=form][value="2"]').click();""")
+    wait(lambda: text('said') == '1 of 1 transcript saved.', 'all saved')
+    wait(saved.exists, 'all saved')
+    same('saved with all', saved.read_bytes(), expected)
 
 
 def transcripts_go_into_a_folder():
@@ -129,6 +144,8 @@ def transcripts_go_into_a_folder():
     saved = """const done = arguments[0];
         navigator.storage.getDirectory().then((folder) => folder.getFileHandle('show.txt')).then((file) => file.getFile()).then((file) => file.text()).then(done);"""
     take(work / 'show.scc', work / 'notes.txt')
+    wait(lambda: 'waiting' not in states(), 'the films')
+    same('one place of a button', len(set(driver.execute_script(PLACES))), 1)
     for replace, options, said in (False, (), '1 of 2'), (False, (), '0 of 2'), (True, ('--clock', 'scc'), '1 of 2'):
         if replace:
             click_label('Keep SCC timecode')

@@ -7,6 +7,7 @@ const kLargeMemory = 256 << 20; // bytes; a worker that has more is replaced beh
 
 const jobs = []; // the first is at work
 let worker = null;
+let stops = 0; // by the user
 
 /** Why a film has no answer: {text, help, line, around}. */
 class Refused extends Error {
@@ -25,14 +26,14 @@ class Stopped extends Error {
 }
 
 /**
- * Has a task done on a film, with the form and the clock of now. Gives the answer: its bytes; ends as Refused or Stopped.
- * `first`: ahead of all that waits.
+ * Has a task done on a film, with the form and the clock of now if no others are given. Gives the answer: its bytes; ends as Refused or Stopped.
+ * `first`: ahead of all that waits. `toKeep`: not to be shown; neither does it end the same task that waits, nor is it ended by it.
  */
-function ask(task, film, {first = false} = {}) {
-    dropJobs((job) => job.task === task && job.film.id === film.id);
+function ask(task, film, {first = false, toKeep = false, form = choiceOf('form'), clock = choiceOf('clock')} = {}) {
+    if (!toKeep) dropJobs((job) => !job.toKeep && job.task === task && job.film.id === film.id);
     return new Promise((resolve, reject) => {
         const {id, name, file, names} = film;
-        const job = {task, film: {id, name, file, names}, form: choiceOf('form'), clock: choiceOf('clock'), resolve, reject};
+        const job = {task, film: {id, name, file, names}, form, clock, toKeep, resolve, reject};
         jobs.splice(first ? Math.min(1, jobs.length) : jobs.length, 0, job);
         if (jobs.length === 1) work();
         else showWork();
@@ -84,6 +85,7 @@ function work() {
 }
 
 function stopWork() {
+    ++stops;
     endWorker();
     for (const job of jobs.splice(0)) job.reject(new Stopped(true));
     showWork();

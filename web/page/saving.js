@@ -20,12 +20,18 @@ async function copyTranscript() {
     }
 }
 
-/** Calls `save` with each film that has a transcript, and the bytes of that; says how many it took. */
+/** Calls `save` with each film that has a transcript, and the bytes of that; says how many it took. All have the form and the clock of now. */
 async function saveAll(save, where) {
+    const all = [...films];
+    const how = {toKeep: true, form: choiceOf('form'), clock: choiceOf('clock')};
+    const stopsBefore = stops;
     let saved = 0;
-    for (const film of [...films])
-        if (!film.refused && await attempt(film, async () => save(film, await ask('transcript', film)))) ++saved;
-    say(`${saved} of ${counted(films.length, 'transcript')} saved${where}.`);
+    for (const film of all) {
+        if (film.refused || !films.includes(film)) continue;
+        if (await attempt(film, async () => save(film, await ask('transcript', film, how)))) ++saved;
+        if (stops !== stopsBefore) break;
+    }
+    say(`${saved} of ${counted(all.length, 'transcript')} saved${where}.`);
 }
 
 const isThere = (folder, name) => folder.getFileHandle(name).then(() => true, (failure) => {

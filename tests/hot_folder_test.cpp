@@ -365,6 +365,12 @@ TEST_F(HotFolder, ACycleAsksForFoldersThatItLacks) {
     window().importSCCFolder();
     EXPECT_EQ(messages(),
               (Lines{"Please select a destination folder for decoded files.", kNoWatchFolder}));
+
+    window().hotFolder.clear();
+    desktop.answerFolder(folder.item("watch"));
+    window().importSCCFolder();
+    EXPECT_EQ(messages(), Lines{"Please select a folder to watch."});
+    EXPECT_EQ(window().TextField1.Text.get(), folder.path("watch/"));
 }
 
 } // namespace

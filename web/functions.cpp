@@ -13,8 +13,16 @@
 /// suffice, nothing comes back.
 namespace norvane {
 
+#ifdef __wasm__
+#define IMPORTED(name) __attribute__((import_module("page"), import_name(#name)))
+#define EXPORTED(name) __attribute__((export_name(#name)))
+#else // in the tests, which link it
+#define IMPORTED(name)
+#define EXPORTED(name)
+#endif
+
 /// Tells the page how much of a film has been gone through, from 0 to 1.
-extern "C" __attribute__((import_module("page"), import_name("progress"))) void progress(double);
+extern "C" IMPORTED(progress) void progress(double);
 
 namespace {
 
@@ -79,8 +87,6 @@ std::string transcriptOf(const std::string &name, std::string_view film, Form fo
 } // namespace
 
 extern "C" {
-
-#define EXPORTED(name) __attribute__((export_name(#name)))
 
 EXPORTED(newText) Text *newText(std::size_t size) {
     return answer([size] { return std::string(size, '\0'); });

@@ -52,7 +52,7 @@ bool Check::begin(std::string_view beginning, std::string_view header, std::size
     const std::string foreign = foreignFormat(beginning);
     const std::string fault = foreign.empty() ? headerFault(header) : foreign;
     const auto tell = [&](FindingKind kind, const std::string &text) {
-        findings_.add(headerNumber, kind, 0, [&text] {
+        findings_.add(headerNumber, kind, [&text] {
             Finding finding;
             finding.text = text;
             return finding;
@@ -71,7 +71,7 @@ void Check::take(const SccLine &line) {
     if (line.refusal) {
         needsCaptions_ = false;
         findings_.add(line.number,
-                      *line.refusal == Refusal::noTab ? FindingKind::tab : FindingKind::timecode, 0,
+                      *line.refusal == Refusal::noTab ? FindingKind::tab : FindingKind::timecode,
                       [&line] { return findingOn(line, refusalHelp(line.text)); });
         return;
     }
@@ -127,7 +127,7 @@ CheckResult Check::finish() {
     summary.lines = lines_;
     summary.dropFrame = dropFrame_.value_or(false);
     if (summary.captions == 0 && needsCaptions_) {
-        findings_.add(headerNumber_, FindingKind::empty, 0, [] {
+        findings_.add(headerNumber_, FindingKind::empty, [] {
             Finding finding;
             finding.text = "No caption is ever shown: request a new copy.";
             return finding;

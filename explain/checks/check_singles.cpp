@@ -29,7 +29,7 @@ void SingleCheck::look(const SccLine &line, bool hasSome, Findings &findings) {
 
 void SingleCheck::report(Findings &findings) {
     if (count_ > 0) {
-        findings.add(line_, FindingKind::single, 0, [this] {
+        findings.add(line_, FindingKind::single, [this] {
             ShortList list;
             Finding finding;
             for (const std::uint16_t code : codesOnce_) {

@@ -20,7 +20,7 @@ bool exists(const FrameTimecode &timecode) {
 
 template <class TextOf>
 void tell(const SccLine &line, FindingKind kind, Findings &findings, TextOf text) {
-    findings.add(line.number, kind, 0, [&] { return findingOn(line, text()); });
+    findings.add(line.number, kind, [&] { return findingOn(line, text()); });
 }
 
 } // namespace

@@ -51,6 +51,10 @@ class Findings {
         finding.lines = {line};
         list_.push_back(std::move(finding));
     }
+    template <class Make>
+    void add(std::size_t line, FindingKind kind, const Make &make) {
+        add(line, kind, 0, make);
+    }
 
     /// Removes all of a kind. Afterwards, only kinds that were never added may be added.
     void takeBack(FindingKind kind);

@@ -77,11 +77,8 @@ void LineTaker::readWords() {
             ++at;
             continue;
         }
-        constexpr std::size_t kWord = 4;
-        const bool isShort = at + kWord >= text.size() || text[at + kWord] == ' ';
         SccWord word;
-        word.digits = text.substr(at, isShort ? kWord : std::string_view::npos);
-        word.digits = word.digits.substr(0, word.digits.find(' '));
+        word.digits = text.substr(at, text.find(' ', at) - at);
         at += word.digits.size();
         const int code = codeOfWord(word.digits);
         word.isCode = code >= 0;

@@ -181,6 +181,11 @@ TEST_F(Actions, TimersTickWhenDue) {
     int ticks = 0;
     Timer timer;
     Timer never;
+    std::optional<Timer> gone;
+    gone.emplace().Action = [&] { ticks += 1000; };
+    gone->Period = 1;
+    gone->Reset();
+    gone.reset();
     timer.Action = [&] { ++ticks; };
     never.Action = [&] { ticks += 1000; };
     never.Period = std::numeric_limits<std::int64_t>::max();

@@ -13,7 +13,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 trap 'exit 1' INT TERM HUP
 
-in_git() { git -C "$root" "$@" 2>/dev/null; }
+in_git() { git -C "$root" -c safe.directory='*' "$@" 2>/dev/null; } # whoever owns the folder
 field() { dpkg-parsechangelog -l "$root/debian/changelog" -S "$1"; }
 
 # Between releases each state replaces the one before it, and is older than the release to come.

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <set>
 
 namespace norvane {
 
@@ -37,7 +38,12 @@ std::string placeIn(const std::string &folder, const std::string &name) {
 
 namespace {
 
+std::set<std::string> writtenPaths; // of what is not for the user's own browser alone
+
 Problem existsAlready(const std::string &path) {
+    if (writtenPaths.contains(absolutePath(path)))
+        return Problem(inQuotes(path) + " has just been written for a file of the same name.",
+                       "Use another folder for one of them.");
     return Problem(inQuotes(path) + " already exists: replace it with --force.");
 }
 
@@ -54,6 +60,8 @@ void writeFile(const std::string &path, std::span<const std::string_view> parts,
     disk::NewFile file(absolutePath(path), readers, links);
     if (input != nullptr && file.replaces(*input))
         throw Problem(inQuotes(path) + " is the input itself and cannot be replaced.");
+    if (writtenPaths.contains(absolutePath(path)))
+        throw existsAlready(path);
     if (!force)
         file.mustBeNew();
     for (const std::string_view part : parts)
@@ -65,6 +73,8 @@ void writeFile(const std::string &path, std::span<const std::string_view> parts,
             throw existsAlready(path);
         throw;
     }
+    if (readers == disk::Readers::byUmask)
+        writtenPaths.insert(absolutePath(path));
 }
 
 } // namespace norvane

@@ -16,7 +16,8 @@ void requireFree(const std::string &path, Links links = Links::trusted);
 
 /// Writes the parts in sequence to the file `path`, completely or not at all, even if a signal ends
 /// the program meanwhile. Throws Problem or FileFailure: for one, when the file exists and `force`
-/// is false, or when it is `input`, which may be null.
+/// is false, when it is `input`, which may be null, or when this run has written it, unless only
+/// the user may read it.
 void writeFile(const std::string &path, std::span<const std::string_view> parts,
                const disk::InputFile *input, bool force,
                disk::Readers readers = disk::Readers::byUmask, Links links = Links::trusted);

@@ -39,9 +39,10 @@ const isThere = (folder, name) => folder.getFileHandle(name).then(() => true, (f
     throw failure;
 });
 
-/** Writes a transcript, whole or not at all. */
-async function writeTo(folder, film, bytes) {
+/** Writes a transcript, whole or not at all; `written` holds the names of those before, which none of another film replaces. */
+async function writeTo(folder, film, bytes, written) {
     const name = transcriptName(film);
+    if (written.has(name)) throw new Error(`“${name}” has just been saved for a film of the same name`);
     const isNew = !await isThere(folder, name);
     if (!isNew && !part('replace').checked) throw new Error(`“${name}” already exists`);
     const file = await folder.getFileHandle(name, {create: true});
@@ -53,6 +54,7 @@ async function writeTo(folder, film, bytes) {
         if (isNew) await folder.removeEntry(name).catch(() => {});
         throw failure;
     }
+    written.add(name);
     setState(film, `saved as ${name}`);
 }
 
@@ -64,7 +66,8 @@ async function saveToFolder() {
         if (failure.name !== 'AbortError') say(`This folder cannot be used: ${failure.message}`);
         return;
     }
-    await saveAll((film, bytes) => writeTo(folder, film, bytes), ` in “${folder.name}”`);
+    const written = new Set();
+    await saveAll((film, bytes) => writeTo(folder, film, bytes, written), ` in “${folder.name}”`);
 }
 
 part('copy').addEventListener('click', copyTranscript);

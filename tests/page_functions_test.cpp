@@ -81,8 +81,9 @@ TEST(PageFunctions, RefuseOneWay) {
     EXPECT_EQ(answerOf(transcript, "a.txt", kHeader, Form::line, Clock::scc), refusal);
     for (auto *task : {page, explain, checkText})
         EXPECT_EQ(answerOf(task, "a.txt", kHeader, Clock::scc), refusal);
-    EXPECT_EQ(answerOf(transcript, "a.scc", "H\n\nx\n", Form::line, Clock::scc),
-              R"(refused {"text":"There does not appear to be any timecode in this file.","help":"After the header, each line must be a timecode, a tab and words of four hex digits: correct it.","line":3})");
+    EXPECT_EQ(
+        answerOf(transcript, "a.scc", "H\n\nx\n", Form::line, Clock::scc),
+        R"(refused {"text":"There does not appear to be any timecode in this file.","help":"After the header, each line must be a timecode, a tab and words of four hex digits: correct it.","line":3})");
 }
 
 TEST(PageFunctions, TellHowFarTheyAreAndWhatIsTooMuch) {

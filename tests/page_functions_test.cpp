@@ -8,6 +8,9 @@
 #include "transcript/layout.h"
 
 #include <gtest/gtest.h>
+#include <limits>
+#include <memory>
+#include <vector>
 
 namespace norvane {
 

@@ -99,6 +99,8 @@ TEST(Text, CharactersAreCodePointsOrStrayBytes) {
     EXPECT_EQ(Len("\xFF\xC3\x28\xE2\x99"), 5U);
     EXPECT_EQ(Len("\xC0\x80\xED\xA0\x80\xF4\x90\x80\x80"),
               9U); // overlong, surrogate, beyond the last
+    EXPECT_EQ(Len("\xF0\x90\x80\x80\xF4\x8F\xBF\xBF\xEE\x80\x80\xED\x9F\xBF\xE0\xA0\x80"),
+              5U); // next to those
     EXPECT_EQ(piecesOf(Split("aé\xFF", "")), (Pieces{"a", "é", "\xFF"}));
     EXPECT_EQ(piecesOf(Split("", "")), Pieces{});
     EXPECT_EQ(piecesOf(Split("a:b::", ":")), (Pieces{"a", "b", "", ""}));

@@ -181,6 +181,7 @@ TEST(Decoder, ShowsWhatAViewerSees) {
         {"RCL 1470 WXYZ 1470 1139 0000 1139 EOC", "CC1 pop-on 8@2- 15,3 YZ"},
         {"RCL 1470 BS WX BS BS BS Y EOC", "CC1 pop-on 8@2- 15,1 Y"},
         {"RCL 1470 a 112e BS b EOC", "CC1 pop-on 6@2- 15,1 ab"},
+        {"RCL 1470 112e ab BS 1721 c EOC", "CC1 pop-on 7@2- 15,2 a c {2-4 wki}"},
         {"RCL 1470 Hello 1472 DER EOC", "CC1 pop-on 7@2- 15,1 Hell"},
         {"RCL 1470 Hello 1470 DER EOC", ""},
         // Other channels have their own cursor and mode.

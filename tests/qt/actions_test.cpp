@@ -163,8 +163,12 @@ TEST_F(Actions, AboutIsOneWindowAndOutlivesTheMainOne) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return main.isNull(); }));
     EXPECT_TRUE(preferences.has("com.bellwick.norvane.prefs"));
     EXPECT_TRUE(first->isVisible());
+    first->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
     _LateStartup();
     EXPECT_TRUE(peer()->isVisible());
+    choose("FileAboutNorvane");
+    EXPECT_TRUE(desktop.peerOf(aboutWin::the())->isVisible());
 }
 
 TEST_F(Actions, AWindowClosesWhenTheActionHasEnded) {

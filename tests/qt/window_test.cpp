@@ -135,8 +135,11 @@ TEST_F(LargeMainWindow, GrowsWithTheDesktopsFontAsFarAsTheScreenGoes) {
     EXPECT_EQ(aboutWin::the().Width, 565);
     for (const auto &[font, eighths] : {std::pair(9, 8), {13, 8}, {14, 9}, {16, 10}, {27, 17}})
         EXPECT_EQ(Scale(font, {2000, 2000}).pixels(8), eighths);
-    for (const auto &[room, eighths] :
-         {std::pair(QSize(2000, 493), 9), {QSize(2000, 494), 10}, {QSize(300, 200), 8}})
+    for (const auto &[room, eighths] : {std::pair(QSize(2000, 493), 9),
+                                        {QSize(2000, 494), 10},
+                                        {QSize(733, 2000), 10},
+                                        {QSize(732, 2000), 9},
+                                        {QSize(300, 200), 8}})
         EXPECT_EQ(Scale(27, room).pixels(8), eighths);
 }
 

@@ -165,7 +165,6 @@ inline constexpr ChainGroup kChainGroups[] = {
 inline constexpr std::size_t kChainRows = 582;
 
 // Rows with a part of their own; the driver applies the first and the last, and the walk the rest.
-inline constexpr std::size_t kTimecodeRow = 1;
 inline constexpr std::size_t kFirstWalkedRow = 2;
 inline constexpr std::size_t kBlanksRow = 480;
 inline constexpr std::size_t kFillerRow = 495;

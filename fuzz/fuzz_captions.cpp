@@ -4,6 +4,7 @@
 #include "explain/reports/check_report.h"
 #include "explain/reports/report.h"
 #include "framework/text/failures.h"
+#include "tests/support/film.h"
 #include "tests/support/plain_road.h"
 #include "transcript/layout.h"
 
@@ -47,7 +48,7 @@ void explainAll(const std::string &text) {
         add(json, "", finding);
     }
     Explainer explainer(Clock::scc, findings);
-    const FilmCaptions captions(text);
+    const FilmCaptions captions = captionsOf(text);
     SccReader reader(text);
     while (const SccLine *line = reader.next()) {
         const Explanation &explanation = explainer.explain(*line);

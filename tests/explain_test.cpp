@@ -4,6 +4,7 @@
 #include "explain/standard/timecode_frames.h"
 #include "explain/walk/said_text.h"
 #include "framework/text/text.h"
+#include "tests/support/film.h"
 #include "tests/support/generated.h"
 #include "transcript/layout.h"
 
@@ -82,7 +83,7 @@ std::string_view told(Report &report, std::string_view file, const std::string &
     SccReader reader(text);
     addHeader(report, file, reader.headerNumber(), reader.header(),
               explainer.adviceOnHeader(reader.headerNumber()));
-    const FilmCaptions captions(text);
+    const FilmCaptions captions = captionsOf(text);
     while (const SccLine *line = reader.next())
         add(report, file, explainer.explain(*line), captions, true);
     return report.bytes();

@@ -1,7 +1,5 @@
 #include "explain/captions/film_decoder.h"
 
-#include <algorithm>
-
 namespace norvane {
 
 FilmDecoder::FilmDecoder(CaptionSink sink) : sink_(std::move(sink)) {}
@@ -29,21 +27,6 @@ void FilmDecoder::finish() {
         if (decoder)
             decoder->finish();
     }
-}
-
-std::vector<Caption> captionsOf(std::string_view film) {
-    std::vector<Caption> captions;
-    FilmDecoder decoder([&captions](Caption &&caption) {
-        if (caption.number != 0)
-            captions.push_back(std::move(caption));
-    });
-    SccReader reader(film);
-    while (const SccLine *line = reader.next())
-        decoder.take(*line);
-    decoder.finish();
-    std::sort(captions.begin(), captions.end(),
-              [](const Caption &a, const Caption &b) { return a.number < b.number; });
-    return captions;
 }
 
 } // namespace norvane

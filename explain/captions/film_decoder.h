@@ -29,7 +29,4 @@ class FilmDecoder {
     long nextFrame_ = 0;
 };
 
-/// All captions of a film that were shown, in the order of their starts.
-std::vector<Caption> captionsOf(std::string_view film);
-
 } // namespace norvane

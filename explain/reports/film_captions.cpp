@@ -1,25 +1,8 @@
 #include "explain/reports/film_captions.h"
 
-#include "explain/captions/film_decoder.h"
-
 #include <algorithm>
 
 namespace norvane {
-
-FilmCaptions::FilmCaptions(std::string_view film) {
-    FilmDecoder decoder([this](Caption &&caption) { list_.push_back(std::move(caption)); });
-    SccReader reader(film);
-    bool isKnown = false;
-    while (const SccLine *line = reader.next()) {
-        decoder.take(*line);
-        if (!isKnown && line->timecode) {
-            dropFrame_ = line->timecode->dropFrame;
-            isKnown = true;
-        }
-    }
-    decoder.finish();
-    link();
-}
 
 FilmCaptions::FilmCaptions(std::vector<Caption> list, bool dropFrame)
     : list_(std::move(list)), dropFrame_(dropFrame) {

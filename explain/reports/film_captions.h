@@ -9,8 +9,6 @@ namespace norvane {
 /// The captions of a film, by the lines that load, show and remove them.
 class FilmCaptions {
   public:
-    explicit FilmCaptions(std::string_view film);
-
     /// From the captions that a FilmDecoder passed on.
     FilmCaptions(std::vector<Caption> list, bool dropFrame);
 

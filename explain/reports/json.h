@@ -29,7 +29,6 @@ class JsonWriter {
     void add(int number) { addBare(std::to_string(number)); }
     void add(double number) { addBare(Str(number)); } // no infinite one
     void add(bool value) { addBare(value ? "true" : "false"); }
-    void addJson(std::string_view json) { addBare(json); } // of such a writer
     void addNull() { addBare("null"); }
 
     template <class Value>

@@ -7,11 +7,6 @@ void ShortList::add(std::string word) {
         first_.push_back(std::move(word));
 }
 
-void ShortList::dropLast() {
-    if (count_-- <= kMost)
-        first_.pop_back();
-}
-
 std::string ShortList::text() const {
     std::string list;
     for (const std::string &word : first_)

@@ -11,7 +11,6 @@ namespace norvane {
 class ShortList {
   public:
     void add(std::string word);
-    void dropLast();
     void clear() { *this = ShortList(); }
     bool empty() const { return count_ == 0; }
     std::size_t count() const { return count_; }

@@ -38,9 +38,6 @@ class TracedText {
     std::string_view text() const { return text_; }
     const Origin &originOf(std::size_t byte) const { return origins_[byte]; }
 
-    /// Whether a byte of the source was deleted by itself.
-    bool isGone(Place place) const { return gone_[place]; }
-
     /// The bytes of the text, from the first to before the second, that may come from the source
     /// between two places, the second not included.
     std::pair<std::size_t, std::size_t> bytesBetween(std::size_t start, std::size_t end) const;

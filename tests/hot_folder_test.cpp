@@ -303,8 +303,17 @@ TEST_F(HotFolder, TheSwitchAndItsTimer) {
     EXPECT_EQ(wait(), Lines{kNoTimecode});
     desktop.advance(kMinute);
     EXPECT_EQ(messages(), (Lines{kNoTimecode, kNoTimecode}));
+    // Switched off while a cycle waits: the end of its tick starts the timer again.
+    desktop.whenSeen = [this](const std::string &line) {
+        if (line.starts_with("message ") && window().CheckBox1.Value)
+            desktop.click(window().CheckBox1);
+    };
+    EXPECT_EQ(wait().size(), 30U);
+    EXPECT_FALSE(window().CheckBox1.Value || window().myWatchFolder);
+    desktop.whenSeen = nullptr;
     desktop.click(window().CheckBox1);
-    EXPECT_FALSE(window().myWatchFolder);
+    desktop.click(window().CheckBox1);
+    EXPECT_EQ(messages(), Lines{kNoTimecode});
     EXPECT_EQ(wait(), Lines{});
 
     const std::pair<const char *, std::int64_t> intervals[] = {

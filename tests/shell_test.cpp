@@ -49,8 +49,12 @@ TEST_F(Shell, ButtonsAndCommands) {
     desktop.click(window().BevelButton2);
     desktop.click(window().BevelButton3);
     desktop.click(window().BevelButton8);
+    const std::string folded = window().PopupArrow1.hint;
+    EXPECT_EQ(folded, "Collapsed: shows the settings below when pressed");
     desktop.click(window().PopupArrow1);
+    EXPECT_EQ(window().PopupArrow1.hint.get(), "Expanded: hides the settings below when pressed");
     desktop.click(window().PopupArrow1);
+    EXPECT_EQ(window().PopupArrow1.hint.get(), folded);
     for (const char *item : {"FileAboutNorvane", "FileAboutNorvane", "FileNewWindow", "EditCut"})
         App::the().menuCommand(item);
     closeWindow();
